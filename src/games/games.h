@@ -1,0 +1,11 @@
+// The one list of game windows the program knows. The selector offers a game
+// only when its window is registered here.
+#pragma once
+
+namespace ch {
+
+class Runtime;
+
+void RegisterGameForms(Runtime& runtime);
+
+}  // namespace ch

@@ -1,0 +1,74 @@
+#include <gtest/gtest.h>
+
+#include "window/basic.h"
+
+using namespace ch;
+
+TEST(Val, ReadsTheNumberAtTheStartAndNeverAnExponent) {
+    EXPECT_EQ(Val("2D"), 2);
+    EXPECT_EQ(Val("1E5"), 1);
+    EXPECT_EQ(Val("12abc"), 12);
+    EXPECT_EQ(Val("abc"), 0);
+    EXPECT_EQ(Val(""), 0);
+    EXPECT_EQ(Val("   -7 points"), -7);
+    EXPECT_EQ(Val("+3"), 3);
+    EXPECT_DOUBLE_EQ(Val("2.5x"), 2.5);
+    EXPECT_EQ(Val(" 13D"), 13);
+    EXPECT_EQ(Val("-"), 0);
+}
+
+TEST(Conversions, RoundHalvesToTheEvenNeighbour) {
+    EXPECT_EQ(CInt(2.5), 2);
+    EXPECT_EQ(CInt(3.5), 4);
+    EXPECT_EQ(CInt(-2.5), -2);
+    EXPECT_EQ(CInt(22.5), 22);  // a quarter of 90 seconds
+    EXPECT_EQ(CInt(37.5), 38);  // a quarter of 150 seconds
+    EXPECT_EQ(CInt(2.4999), 2);
+    EXPECT_EQ(CLng(2500000.5), 2500000);
+    EXPECT_EQ(CLng(-0.5), 0);
+}
+
+TEST(Conversions, OutOfRangeRaisesOverflow) {
+    EXPECT_EQ(CInt(32767.4), 32767);
+    EXPECT_EQ(CInt(-32768.5), -32768);
+    try {
+        CInt(32767.5);
+        FAIL() << "no error raised";
+    } catch (const RuntimeError& e) {
+        EXPECT_EQ(e.number(), 6);
+        EXPECT_EQ(e.description(), "Overflow");
+    }
+    EXPECT_THROW(CLng(2147483648.0), RuntimeError);
+    EXPECT_NO_THROW(CLng(-2147483648.0));
+}
+
+TEST(Formats, GroupDigitsInThrees) {
+    EXPECT_EQ(FormatScore(0), "0");
+    EXPECT_EQ(FormatScore(999), "999");
+    EXPECT_EQ(FormatScore(1000), "1,000");
+    EXPECT_EQ(FormatScore(80000), "80,000");
+    EXPECT_EQ(FormatScore(1234567), "1,234,567");
+    EXPECT_EQ(FormatScore(-1500), "-1,500");
+    EXPECT_EQ(FormatScore(-2147483648LL), "-2,147,483,648");
+}
+
+TEST(Texts, NumberToTextCarriesTheBlankOfANonNegativeNumber) {
+    EXPECT_EQ(Str(7), " 7");
+    EXPECT_EQ(Str(0), " 0");
+    EXPECT_EQ(Str(-7), "-7");
+    EXPECT_EQ(NumText(7), "7");
+    EXPECT_EQ(Trim("  10D "), "10D");
+    EXPECT_EQ(LTrim("  a "), "a ");
+    EXPECT_EQ(RTrim("  a "), "  a");
+    EXPECT_EQ(Trim("   "), "");
+}
+
+TEST(Booleans, StoredAsMinusOneAndShownAsWords) {
+    EXPECT_EQ(BoolValue(true), -1);
+    EXPECT_EQ(BoolValue(false), 0);
+    EXPECT_STREQ(BoolText(true), "True");
+    EXPECT_TRUE(ParseBoolText("True"));
+    EXPECT_TRUE(ParseBoolText(" true "));
+    EXPECT_FALSE(ParseBoolText("False"));
+    EXPECT_FALSE(ParseBoolText("yes"));
+}

@@ -1,0 +1,72 @@
+// The script language of cardhaven-script: one command a line, read by the
+// message loop whenever it waits for input, so that a modal window opened in
+// the middle of a handler is filled in by the lines that follow.
+#pragma once
+
+#include <istream>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "window/headless.h"
+
+namespace ch {
+
+class Runtime;
+
+// Thrown after an ERROR line: the run stops with exit status 2.
+struct ScriptError {};
+
+class ScriptRunner {
+public:
+    ScriptRunner(Runtime& runtime, HeadlessPlatform& platform, std::istream& in, std::ostream& out);
+
+    // Runs commands until one needs the loop: input, passing time, or the end.
+    HeadlessPlatform::Step next();
+    // Reports a failure found outside an expect (an unanswered message box).
+    void fail(const std::string& text);
+    void trace(const std::string& text);
+    void setTracing(bool on) { tracing_ = on; }
+    int failures() const { return failures_; }
+
+    // Splits a line into tokens: blanks separate, double quotes hold blanks,
+    // with \" \\ \r \n as escapes; any other backslash stays as it is.
+    static bool Tokenize(const std::string& line, std::vector<std::string>& tokens);
+
+    struct Segment {
+        std::string name;
+        std::optional<int> index;
+    };
+    // "frmSumfall.FieldCardPicture(7).Picture" into its segments.
+    static bool ParseReference(const std::string& text, std::vector<Segment>& segments);
+
+private:
+    struct Result {
+        bool notLoaded = false;
+        std::string text;
+    };
+
+    std::optional<HeadlessPlatform::Step> execute(const std::vector<std::string>& tokens);
+    [[noreturn]] void error(const std::string& text);
+    Result evaluate(const std::string& expr);
+    // Resolves a control reference for an input command; false when its form
+    // is not loaded (a FAIL already printed).
+    bool target(const std::string& ref, InputEvent& event);
+    std::string pictureText(int index) const;
+    void print(const std::string& line);
+    void readBoxes();
+    void expectEqual(const std::string& what, const std::string& actual, const std::string& expected);
+
+    Runtime& runtime_;
+    HeadlessPlatform& platform_;
+    std::istream& in_;
+    std::ostream& out_;
+    int line_ = 0;
+    int failures_ = 0;
+    bool tracing_ = false;
+    bool ended_ = false;
+    std::vector<MessageBox> unread_;
+};
+
+}  // namespace ch

@@ -1,0 +1,31 @@
+# Sourced by run.sh and test.sh: installs the Debian packages the build needs,
+# once, then configures and builds a tree. A second run installs nothing and
+# rebuilds only what changed.
+set -euo pipefail
+
+CARDHAVEN_PACKAGES=(cmake ninja-build g++ libgtest-dev)
+
+cardhaven_install() {
+    local missing=()
+    for pkg in "${CARDHAVEN_PACKAGES[@]}" "$@"; do
+        if ! dpkg-query -W -f='${Status}' "$pkg" 2>/dev/null | grep -q 'install ok installed'; then
+            missing+=("$pkg")
+        fi
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    local sudo=""
+    [ "$(id -u)" -ne 0 ] && sudo="sudo"
+    echo "Installing: ${missing[*]}"
+    $sudo apt-get update -qq
+    DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# cardhaven_build DIR [CMAKE ARGS...]
+cardhaven_build() {
+    local dir="$1"
+    shift
+    if [ ! -f "$dir/build.ninja" ]; then
+        cmake -S . -B "$dir" -G Ninja "$@" >/dev/null
+    fi
+    cmake --build "$dir" -j "$(nproc)"
+}
