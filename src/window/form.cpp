@@ -108,6 +108,12 @@ void Form::setEnabled(bool v) {
     touch();
 }
 
+void Form::setFocus(Control& control) {
+    focus_ = &control;
+    touch();
+    raise(&control, Ev::GotFocus);
+}
+
 void Form::expose(const std::string& name, VariableGetter getter) { variables_[name] = std::move(getter); }
 
 bool Form::readVariable(const std::string& name, int index, Value& out) const {

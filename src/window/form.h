@@ -81,6 +81,9 @@ public:
     bool enabled() const { return enabled_; }
     void setEnabled(bool v);
     bool loaded() const { return loaded_; }
+    // The control with the keyboard focus; SetFocus raises its GotFocus.
+    Control* focusControl() const { return focus_; }
+    void setFocus(Control& control);
     bool modal() const { return modal_; }
 
     // Variables of the form and its game module that the driver may read.
@@ -115,6 +118,7 @@ private:
     bool loaded_ = false;
     bool modal_ = false;
     bool shownOnce_ = false;
+    Control* focus_ = nullptr;
     int maxZ_ = 0, minZ_ = 0;
 };
 

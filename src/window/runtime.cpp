@@ -313,7 +313,7 @@ void Runtime::dispatchToControl(Form& form, Control& control, const InputEvent& 
         case InputKind::MouseMove: form.raise(&control, Ev::MouseMove); break;
         case InputKind::Key: pressKey(form, control, event.key); break;
         case InputKind::SetText: control.setText(event.text); break;
-        case InputKind::Focus: form.raise(&control, Ev::GotFocus); break;
+        case InputKind::Focus: form.setFocus(control); break;
         case InputKind::Check: control.setValue(event.value ? 1 : 0); break;
         case InputKind::Choose: control.setValue(1); break;
         case InputKind::ListSelect:

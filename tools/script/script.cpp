@@ -226,6 +226,7 @@ bool FormProperty(const Form& f, const std::string& p, std::string& out) {
     else if (p == "Left") out = std::to_string(f.left());
     else if (p == "Top") out = std::to_string(f.top());
     else if (p == "WindowState") out = std::to_string(f.windowState());
+    else if (p == "ActiveControl") out = f.focusControl() ? f.focusControl()->displayName() : "";
     else return false;
     return true;
 }
