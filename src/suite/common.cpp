@@ -22,6 +22,14 @@ void ResetShared() {
     CustomScoringInUse = false;
     PlayerName.clear();
     GameStartTime = 0;
+    CardGoal = 11;
+    DialCenterX = 0;
+    DialCenterY = 0;
+    DialRadius = 0;
+    DialFirstColor = 65280;
+    DialSecondColor = 65535;
+    DialLastColor = 0xFFFFFF;
+    DialLineColor = 0xC0C0C0;
     Deck.assign(1, std::string());
     ImageList2().reset();
 }
@@ -44,6 +52,12 @@ void ExposeShared(Runtime& runtime) {
     runtime.exposeGlobal("CustomScoringInUse", Expose(CustomScoringInUse));
     runtime.exposeGlobal("PlayerName", Expose(PlayerName));
     runtime.exposeGlobal("Deck", Expose(Deck));
+    runtime.exposeGlobal("CardGoal", Expose(CardGoal));
+    runtime.exposeGlobal("GameStartTime", Expose(GameStartTime));
+    runtime.exposeGlobal("DialCenterX", Expose(DialCenterX));
+    runtime.exposeGlobal("DialCenterY", Expose(DialCenterY));
+    runtime.exposeGlobal("DialRadius", Expose(DialRadius));
+    runtime.exposeGlobal("DialLastColor", Expose(DialLastColor));
 }
 
 std::string AppFile(const std::string& name) {

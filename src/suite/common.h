@@ -28,6 +28,20 @@ inline int32_t TimeBonus = 0;      // points per second left
 inline bool CustomScoringInUse = false;
 inline std::string PlayerName;
 inline int64_t GameStartTime = 0;  // wall clock when the game window was loaded
+// Sumfall's card goal (10 to 15): part of its table names and of its Hall of
+// Fame caption. The Sumfall window keeps it here so that the shared windows
+// can read it without knowing the game.
+inline int16_t CardGoal = 11;
+
+// The round dial (see dial.h): centre and radius on the picture surface
+// `Surface`, and the colours of its quarters. InitTimeDial computes them.
+inline int16_t DialCenterX = 0;
+inline int16_t DialCenterY = 0;
+inline double DialRadius = 0;
+inline int32_t DialFirstColor = 65280;    // green: the first two quarters
+inline int32_t DialSecondColor = 65535;   // yellow: the third quarter
+inline int32_t DialLastColor = 0xFFFFFF;  // the last quarter: blinks red and black
+inline int32_t DialLineColor = 0xC0C0C0;  // the cross and the frame circle
 
 // Puts every shared variable back as at program start.
 void ResetShared();

@@ -4,6 +4,10 @@
 
 #include "suite/cards.h"
 #include "suite/common.h"
+#include "suite/frmAbout.h"
+#include "suite/frmHiScoreName.h"
+#include "suite/frmHighScores.h"
+#include "suite/frmRules.h"
 #include "suite/frmSelect.h"
 #include "window/runtime.h"
 
@@ -22,6 +26,10 @@ void StartSuite(Runtime& runtime, const SuiteOptions& options) {
     CommandLine = options.commandLine;
     ExposeShared(runtime);
     runtime.registerForm("frmSelect", [](Runtime& rt) { return std::make_unique<frmSelect>(rt); });
+    runtime.registerForm("frmHighScores", [](Runtime& rt) { return std::make_unique<frmHighScores>(rt); });
+    runtime.registerForm("frmHiScoreName", [](Runtime& rt) { return std::make_unique<frmHiScoreName>(rt); });
+    runtime.registerForm("frmRules", [](Runtime& rt) { return std::make_unique<frmRules>(rt); });
+    runtime.registerForm("frmAbout", [](Runtime& rt) { return std::make_unique<frmAbout>(rt); });
     runtime.show("frmSelect");
 }
 

@@ -19,7 +19,9 @@ enum class ControlKind {
 
 const char* KindName(ControlKind kind);
 
-// One primitive of a picture surface's display list. Angles in degrees.
+// One primitive of a picture surface's display list. Angles in degrees on the
+// screen: 0 is three o'clock, -90 twelve o'clock, and a pie is filled clockwise
+// from startAngle to endAngle ("pie -90 0" is the top right quarter).
 struct DrawItem {
     enum class Kind { Pie, Line, Circle } kind = Kind::Line;
     double x1 = 0, y1 = 0, x2 = 0, y2 = 0;  // line ends; centre in x1, y1

@@ -1,0 +1,44 @@
+#include "suite/frmHiScoreName.h"
+
+#include "suite/common.h"
+#include "window/runtime.h"
+
+namespace ch {
+
+namespace {
+using K = ControlKind;
+
+const ControlSpec kLayout[] = {
+    {K::Label, "lblInfo", -1, 240, 240, 4560, 855, ""},
+    {K::TextBox, "lblPlayerName", -1, 240, 1215, 4560, 315, ""},
+    {K::Button, "cmdOK", -1, 1890, 1740, 1260, 375, "&OK"},
+};
+}  // namespace
+
+frmHiScoreName::frmHiScoreName(Runtime& runtime) : Form(runtime, "frmHiScoreName") {
+    setSize(5160, 2700);
+    add(kLayout);
+    c("cmdOK").setDefault(true);
+    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
+    on("cmdOK", Ev::Click, [this](EventArgs&) { cmdOK_Click(); });
+}
+
+void frmHiScoreName::Form_Load() {
+    Platform& platform = runtime().platform();
+    move((platform.screenWidth() - width()) / 2, (platform.screenHeight() - height()) / 2);
+    setCaption(AppTitle);
+    c("lblInfo").setCaption("Great score! Please enter your name so we can induct you into the " + AppTitle +
+                            " Hall of Fame:");
+}
+
+void frmHiScoreName::cmdOK_Click() {
+    const std::string name = c("lblPlayerName").text();
+    if (name.find(',') != std::string::npos) {
+        MsgBox("Sorry, you may not use commas in your name.", MsgButtons::OK, MsgIcon::Critical, AppTitle);
+        return;
+    }
+    PlayerName = name.empty() ? "Unknown User" : name;
+    runtime().unload(*this);
+}
+
+}  // namespace ch

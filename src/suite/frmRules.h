@@ -1,0 +1,39 @@
+// The rules window: its text is composed anew at each opening from AppTitle
+// and the live settings of the running game, by the composer that game
+// registers under its title (the games register theirs in RegisterGameForms):
+//
+//   RegisterRules("Spirehold!", [] {
+//       return RulesText(33, {"Requirements: To run " + AppTitle + " ...", ..., "Good luck and have fun!"});
+//   });
+//
+// Opened modally through ShowModalPaused(*this, "frmRules"); OK unloads it.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "window/form.h"
+
+namespace ch {
+
+using RulesComposer = std::function<std::string()>;
+// Adds or replaces the composer of a title.
+void RegisterRules(const std::string& title, RulesComposer composer);
+
+// The usual shape: a line break, `indent` blanks, AppTitle, " Rules, Notes
+// and Strategy", two line breaks, then the paragraphs, each but the last
+// closed by two line breaks. Line breaks are CR LF. A paragraph may hold
+// lines of its own joined by single line breaks (Handgrid's hand table).
+std::string RulesText(int indent, const std::vector<std::string>& paragraphs);
+
+class frmRules : public Form {
+public:
+    explicit frmRules(Runtime& runtime);
+
+private:
+    void Form_Load();
+    void cmdOK_Click();
+};
+
+}  // namespace ch

@@ -1,0 +1,222 @@
+// The pieces every game window is built from. A game window is one class of
+// its own; it adds these controls to its layout and calls these routines from
+// its handlers, in its own order, so that its Play, pause, time-up and close
+// read step by step in its own file. Every routine reaches the controls by
+// their names, which are the same in every game window; a control a game
+// lacks (cmdTakeScore in Fivestack, cmdExit where the game has cmdQuit) is
+// skipped.
+//
+// Form_Load of a typical game window:
+//   setMousePointer(11); SetTimer(*this, "Timer4", 200, true); c("Timer1").setEnabled(false);
+//   TimeLimit = 45; PlaySounds = true; ... (its defaults)
+//   ShowWelcome(*this);
+//   ReadSettingsINI("\\X.Ini", SettingsSections());           (settings.h)
+//   GameStartTime = wall clock now;  ShowSplashCaptions(*this);
+//   CentreOnScreen(*this);  ShowHighScore(table, *this, "30000");  setMousePointer(0);
+// Timer1_Timer:  AdvanceRoundClock(*this); ShowTimeWarnings(*this);
+//                if (ElapsedSeconds == TimeLimit) { Timer1 off; hide cards; disable buttons;
+//                    ShowTimesUp(*this); BlinkLabel(c("lblMessage"), 10, 250); take score;
+//                    if lblMessage isn't "Game Over", hide it }
+// Timer2_Timer:  DrawTimeDial(DialAngle(DialSeconds), *this);      (dial.h)
+// Timer3_Timer:  ShowTimeOfDay(*this);
+// Timer4_Timer:  Splash.step(*this, SplashFace::RandomFace);
+// cmdPause:      if caption is kPauseCaption: SetPausedControls; hide cards; StopMusic if PlayMusic
+//                else SetResumedControls; show cards; StartMusic if PlayMusic and GameInProgress
+// Form_QueryUnload: if (!AskYesNo(CloseQuestion())) cancel; else LeaveGameWindow(...)
+// mnuRules / mnuAbout / mnuView: ShowModalPaused(*this, "frmRules");
+// end of the game: FinishGame(*this, table, default, {...}).
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+
+#include "suite/settings.h"
+#include "window/control.h"
+
+namespace ch {
+
+class Form;
+
+// Captions the game logic tests, exactly as they stand.
+inline constexpr const char* kPlayCaption = "&Play";
+inline constexpr const char* kEndGameCaption = "&End Game";
+inline constexpr const char* kPauseCaption = "Pau&se";
+inline constexpr const char* kResumeCaption = "&Resume";
+inline constexpr const char* kGamePaused = "Game Paused";
+inline constexpr const char* kGameOver = "Game Over";
+inline constexpr const char* kTimesUp = "Times Up!";
+inline constexpr const char* kStartsTip = "Starts a new game";
+inline constexpr const char* kEndsTip = "Ends the game in progress";
+
+// Questions of the Play button and of closing the window.
+inline constexpr const char* kQuitQuestion = "You have a game in progress, are you sure you want to quit?";
+inline constexpr const char* kQuitNowQuestion = "You have a game in progress, are you sure you want to quit now?";
+inline constexpr const char* kRestartQuestion = "You have a game in progress, are you sure you want to restart now?";
+inline constexpr const char* kClearScoresQuestion = "This will clear all High Scores. Are You Sure?";
+
+// ---- Layout ---------------------------------------------------------------
+// The controls every game window has, at their design places on a window of
+// 9540 by 7200 twips: cmdPlay, cmdPause, the time, score and round boxes with
+// their rectangles and bevel lines, the dial `Surface`, lblHighScore,
+// lblMessage, the splash panel frmSplash (lblCompanyProduct, lblProductName,
+// lblPlatform, lblVersion, imgSplashImage(0..3)), StatusBar1 and Timer1 to
+// Timer4. Captions are set by the routines below and by the game.
+std::span<const ControlSpec> StandingControls();
+// The buttons and labels not every game has, at their usual places.
+std::span<const ControlSpec> TakeScoreButton();  // cmdTakeScore "&Take Score"
+std::span<const ControlSpec> ExitButton();       // cmdExit "E&xit"
+std::span<const ControlSpec> QuitButton();       // cmdQuit "&Quit", same place
+std::span<const ControlSpec> ScoringLabel();     // lblScoring, the amounts of a count-up
+// The common menus, in their order. A game adds between OptionsMenuHead and
+// OptionsMenuTail its scoring dialog entry, and after OptionsMenuTail its time
+// limit entries (container "mnuTime"). A game whose menu captions differ
+// writes its own arrays.
+std::span<const ControlSpec> FileMenu();          // mnuFile "&File": mnuPlay, mnuTakeScore, mnuPause, mnuExit
+std::span<const ControlSpec> OptionsMenuHead();   // mnuOptions: mnuView, mnuClear, mnuMusic, mnuSounds
+std::span<const ControlSpec> OptionsMenuTail();   // mnuTime, mnuDeck with mnuPalm, mnuMagic, mnuNight, mnuHot
+std::span<const ControlSpec> HelpMenu();          // mnuHelp: mnuRules, mnuAbout
+
+// The state of the standing controls at load: fonts of the big labels,
+// lblMessage and lblScoring hidden, cmdPause disabled, the play captions and
+// tool tips, the fixed captions of the boxes ("Time:", "Score:", "Round:").
+void PrepareStandingControls(Form& window);
+// A timer's interval and whether it runs.
+void SetTimer(Form& window, const std::string& name, int interval, bool enabled);
+
+// ---- Form_Load ------------------------------------------------------------
+// left = (screen width - width) / 2, top likewise, integer division.
+void CentreOnScreen(Form& window);
+// Window caption = AppTitle; panel 1 "Welcome to " + AppTitle + two blanks;
+// panel 3 the time of day.
+void ShowWelcome(Form& window);
+// lblCompanyProduct "Quillmark Presents", lblVersion "Version 4.0",
+// lblProductName AppTitle, lblPlatform "Windows 95/98/NT"; frmSplash shown.
+void ShowSplashCaptions(Form& window);
+// The wall clock as "h:mm AMPM" ("3:07 PM").
+std::string TimeOfDayText(int64_t wallClockMs);
+// Panel 3 of StatusBar1 = the time of day (Timer3, or Timer6 in Blackrush).
+void ShowTimeOfDay(Form& window);
+// Whole minutes from a wall clock reading to now.
+int MinutesSince(int64_t wallClockMs);
+
+// ---- Splash panel ----------------------------------------------------------
+enum class SplashFace {
+    RandomFace,  // a random card face with BorderStyle 1, the back with BorderStyle 0
+    Sumfall,     // the picture "SFUP" for the face, BorderStyle untouched
+};
+// The ring of four cards on the splash panel, one step per Timer4 tick:
+// forward passes turn the cards to backs or faces in turn, backward passes
+// restack them.
+struct SplashAnimation {
+    int16_t SplashPosition = 0;
+    bool SplashForward = false;
+    bool SplashShowBack = false;
+    void step(Form& window, SplashFace face);
+};
+// frmSplash and Timer4 on or off together.
+void ShowSplash(Form& window, bool visible);
+
+// ---- Round clock -----------------------------------------------------------
+// ElapsedSeconds += 1; the dial at DialAngle(ElapsedSeconds); DialSeconds =
+// ElapsedSeconds; lblTime = "Time: " + seconds left.
+void AdvanceRoundClock(Form& window);
+// Panel 2: "Times running out!" from half time (both ends in), "Better Hurry!"
+// below a quarter; quarter and half rounded half to even. Above half the
+// panel keeps its text.
+void ShowTimeWarnings(Form& window);
+// lblMessage = "Times Up!", shown; panel 2 = "Time has expired!".
+void ShowTimesUp(Form& window);
+// `times` blinks of a label between red (255) and black: a label of any other
+// colour turns red first. Each blink repaints and sleeps `ms` (blocking).
+void BlinkLabel(Control& label, int times, int ms);
+
+// ---- Play, pause, prompts ---------------------------------------------------
+// cmdPlay and mnuPlay captions with cmdPlay's tool tip: playing gives
+// `endCaption` and "Ends the game in progress", idle "&Play" and "Starts a new game".
+void SetPlayCaptions(Form& window, bool playing, const char* endCaption = kEndGameCaption);
+// The shared part of pausing: cmdPause's tool tip, lblMessage "Game Paused"
+// (shown if GameInProgress), Timer1 off, "&Resume" on cmdPause and mnuPause,
+// cmdExit/cmdQuit, cmdTakeScore, cmdPlay, mnuExit, mnuPlay, mnuTakeScore
+// disabled. The game then hides its cards and stops the music.
+void SetPausedControls(Form& window);
+// The reverse: lblMessage hidden and emptied, Timer1 on, "Pau&se", the
+// controls enabled. The game then shows its cards and restarts the music.
+void SetResumedControls(Form& window);
+// A Yes/No question with the question icon and the title AppTitle.
+bool AskYesNo(const std::string& question);
+// The question of closing the window: a game in progress, under five minutes
+// since the window loaded, or later.
+std::string CloseQuestion();
+// A confirmed close: hourglass, the settings file written, Timer1 off,
+// GameInProgress false, StopMusic if PlayMusic, the selector shown again.
+void LeaveGameWindow(Form& window, const std::string& settingsFile, const SettingsLayout& settings);
+
+// Around a modal window (rules, about, Hall of Fame): a running game that is
+// neither paused nor over (by `messageLabel`'s caption) is paused by a click
+// of cmdPause before and resumed by another after, unless it was paused
+// already or is over by then.
+void ShowModalPaused(Form& window, const std::string& formName, const char* messageLabel = "lblMessage");
+
+// ---- Menus --------------------------------------------------------------------
+struct TimeEntry {
+    const char* menu;     // "mnu45"
+    int seconds;          // 45
+    const char* caption;  // "&45 seconds (default)"
+};
+// Unticks every entry.
+void ClearTimeCheck(Form& window, std::span<const TimeEntry> entries);
+// TimeLimit = the entry's seconds, ticks only it. The game then shows the
+// high score of that limit's table.
+void ChooseTimeLimit(Form& window, std::span<const TimeEntry> entries, const std::string& menu);
+// A settings value: the entry whose seconds read as that text is clicked;
+// any other value changes nothing.
+void ApplyTimeSetting(Form& window, const std::string& value, std::span<const TimeEntry> entries);
+
+// The design entries by DeckDesign number 1 to 4.
+inline constexpr const char* kDeckMenus[4] = {"mnuPalm", "mnuMagic", "mnuNight", "mnuHot"};
+// Fivestack and Blackrush number them the other way round at the ends.
+inline constexpr const char* kReversedDeckMenus[4] = {"mnuHot", "mnuMagic", "mnuNight", "mnuPalm"};
+// ClearDeckCheck, tick the entry, move "FULL", "BACK", "HALF" to its design.
+// The game then refreshes its stock (and, when paused, its field) and sets
+// DeckDesign.
+void ChooseBackDesign(Form& window, const std::string& menu);
+// A settings value "1" to "4" clicks that design's entry; anything else
+// changes nothing.
+void ApplyDeckSetting(Form& window, const std::string& value, const char* const (&menus)[4]);
+
+// PlaySounds and the tick of mnuSounds.
+void SetPlaySounds(Form& window, bool on);
+// PlayMusic and the tick of mnuMusic; during a running game the music starts
+// or stops at once.
+void SetPlayMusic(Form& window, bool on, bool gameRunning);
+
+// ---- Window size in the settings file -------------------------------------
+// "[State]": 0 normal, 1 minimised, 2 maximised; other values change nothing.
+void ApplyWindowState(Form& window, const std::string& value);
+// "[Width]" / "[Height]": applied unless the window is maximised; a value
+// that is no positive number changes nothing.
+void ApplyWindowWidth(Form& window, const std::string& value);
+void ApplyWindowHeight(Form& window, const std::string& value);
+std::string WindowStateText(const Form& window);
+// The size to write: the window's own, or the design size when maximised.
+std::string WindowWidthText(const Form& window, int designWidth);
+std::string WindowHeightText(const Form& window, int designHeight);
+
+// ---- End of a game ------------------------------------------------------------
+struct FinishGameSteps {
+    std::function<void(bool)> showCards;               // the game's ShowCards
+    std::function<void(bool, bool)> showControls;      // the game's ShowControls
+    bool disableTakeScoreMenu = true;                  // false in Treyshift, Handgrid, Blackrush
+};
+// The shared end of a game: Timer1 off, GameInProgress false, "&Play",
+// mnuCustom, mnuTime (and mnuClearHighRun) enabled; cmdPause, cmdTakeScore,
+// mnuPause, mnuTakeScore disabled; the score offered to the table; the
+// table's leader shown; ShowCards(false), ShowControls(false, true); panel 2
+// "Game Over". A table that can't be read or written stops the steps with a
+// critical message.
+void FinishGame(Form& window, const std::string& tableName, const std::string& defaultScore,
+                const FinishGameSteps& steps);
+
+}  // namespace ch

@@ -1,0 +1,127 @@
+#include "suite/highscores.h"
+
+#include "suite/common.h"
+#include "suite/files.h"
+#include "suite/sound.h"
+#include "suite/suite.h"
+#include "window/basic.h"
+#include "window/runtime.h"
+
+namespace ch {
+
+namespace {
+
+const char* const kSumfallTitle = "Sumfall!";
+
+std::vector<HighScoreTable>& Tables() {
+    static std::vector<HighScoreTable> tables = {
+        {"Sumfall!", "frmSumfall", "HiScores", "50000"},
+        {"Fivestack!", "frmFivestack", "HiScores", "50000"},
+        {"Blackrush!", "frmBlackrush", "BlackrushHiScores", "50000"},
+        {"Spirehold!", "frmSpirehold", "SpireholdHiScores", "30000"},
+        {"Duopick!", "frmDuopick", "DuopickHighScores", "30000"},
+        {"Handgrid!", "frmHandgrid", "HandgridHighScores", "30000"},
+        {"Treyshift!", "frmTreyshift", "TreyshiftHiScores", "50000"},
+    };
+    return tables;
+}
+
+std::string Line(const std::string& name, const std::string& score) { return name + ", " + score + "\r\n"; }
+
+}  // namespace
+
+const HighScoreTable* HighScoreTableFor(const std::string& title) {
+    for (const HighScoreTable& table : Tables())
+        if (table.title == title) return &table;
+    return nullptr;
+}
+
+void RegisterHighScoreTable(const HighScoreTable& table) {
+    for (HighScoreTable& known : Tables())
+        if (known.title == table.title) {
+            known = table;
+            return;
+        }
+    Tables().push_back(table);
+}
+
+std::string HighScoreFileName(const std::string& tableName) {
+    std::string name = "\\" + tableName + NumText(TimeLimit);
+    if (AppTitle == kSumfallTitle) name += "_" + NumText(CardGoal);
+    return AppFile(name + ".Txt");
+}
+
+std::vector<ScoreEntry> ParseHighScoreText(const std::string& text) {
+    std::vector<ScoreEntry> entries;
+    size_t start = 0;
+    while (start < text.size()) {
+        size_t end = text.find('\n', start);
+        if (end == std::string::npos) end = text.size();
+        std::string line = text.substr(start, end - start);
+        start = end + 1;
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        if (Trim(line).empty()) continue;
+        const size_t comma = line.find(',');
+        ScoreEntry entry;
+        entry.name = Trim(line.substr(0, comma));
+        if (comma != std::string::npos) entry.score = Trim(line.substr(comma + 1));
+        entries.push_back(entry);
+    }
+    return entries;
+}
+
+std::string DefaultHighScoreText(const std::string& defaultScore) {
+    std::string text;
+    for (int i = 0; i < 10; ++i) text += Line("Quillmark", defaultScore);
+    return text;
+}
+
+bool CreateHighScoreFile(const std::string& tableName, Form&, const std::string& defaultScore) {
+    // The table's text and the line end that closes every write.
+    return WriteFileAtomic(HighScoreFileName(tableName), DefaultHighScoreText(defaultScore) + "\r\n");
+}
+
+bool ShowHighScore(const std::string& tableName, Form& window, const std::string& defaultScore) {
+    std::string text;
+    if (!ReadWholeFile(HighScoreFileName(tableName), text)) {
+        if (!CreateHighScoreFile(tableName, window, defaultScore)) return false;
+        if (!ReadWholeFile(HighScoreFileName(tableName), text)) return false;
+    }
+    const std::vector<ScoreEntry> entries = ParseHighScoreText(text);
+    const std::string score = entries.empty() ? "0" : entries.front().score;
+    const std::string prefix = window.name() == "frmSpirehold" ? "Current High Score: " : "High Score: ";
+    if (Control* label = window.find("lblHighScore")) label->setCaption(prefix + FormatScore(static_cast<long long>(Val(score))));
+    return true;
+}
+
+bool UpdateHighScoreTable(const std::string& tableName, Form&) {
+    std::string text;
+    if (!ReadWholeFile(HighScoreFileName(tableName), text)) return false;
+    const std::vector<ScoreEntry> entries = ParseHighScoreText(text);
+
+    std::string table;
+    int count = 0;
+    bool inserted = false;
+    for (size_t i = 0; i < entries.size() && count < 10; ++i) {
+        PlayerName = entries[i].name;
+        const std::string& score = entries[i].score;
+        if (Val(score) >= CurrentScore || inserted) {
+            table += Line(PlayerName, score);
+            count += 1;
+            continue;
+        }
+        // The new score's place: the entry read moves one down.
+        const ScoreEntry kept = entries[i];
+        if (PlaySounds) PlayWaveFile("\\HighScore.wav");
+        inserted = true;
+        Runtime::current().show("frmHiScoreName", true);
+        table += PlayerName + (CustomScoringInUse ? "*, " : ", ") + NumText(CurrentScore) + "\r\n";
+        table += Line(kept.name, kept.score);
+        count += 2;
+    }
+    if (!WriteFileAtomic(HighScoreFileName(tableName), table + "\r\n")) return false;
+    if (inserted) Runtime::current().show("frmHighScores", true);
+    return true;
+}
+
+}  // namespace ch
