@@ -12,6 +12,9 @@
 #include "suite/suite.h"
 #include "tools/script/script.h"
 #include "window/runtime.h"
+#ifdef CARDHAVEN_TEST_FORMS
+#include "tests/support/testforms.h"  // the test driver's own windows
+#endif
 
 namespace fs = std::filesystem;
 
@@ -70,7 +73,13 @@ int main(int argc, char** argv) {
         runtime.setTracer([&runner](const std::string& text) { runner.trace(text); });
         try {
             ch::RegisterGameForms(runtime);
+#ifdef CARDHAVEN_TEST_FORMS
+            ch::RegisterTestForms(runtime);
+#endif
             ch::StartSuite(runtime, options);
+#ifdef CARDHAVEN_TEST_FORMS
+            ch::ShowTestLauncher(runtime);
+#endif
             runtime.run();
         } catch (const ch::StopRun&) {
         } catch (const ch::ScriptError&) {

@@ -1,0 +1,63 @@
+// frmTestLauncher: cmdOpen opens the test game as a selector button would;
+// cmdWrite writes txtContent to the file txtFile names in AppPath ("\X.Ini"),
+// cmdRead reads it back into txtContent ("<missing>" when there is none),
+// cmdDelete removes it.
+#include <cstdio>
+#include <memory>
+
+#include "suite/common.h"
+#include "suite/files.h"
+#include "tests/support/frmTestGame.h"
+#include "tests/support/testforms.h"
+#include "window/runtime.h"
+
+namespace ch {
+
+namespace {
+using K = ControlKind;
+
+const ControlSpec kLayout[] = {
+    {K::Button, "cmdOpen", -1, 120, 120, 1500, 375, "Open"},
+    {K::TextBox, "txtFile", -1, 120, 600, 3000, 315, ""},
+    {K::TextBox, "txtContent", -1, 120, 1000, 3000, 2000, ""},
+    {K::Button, "cmdWrite", -1, 120, 3100, 900, 375, "Write"},
+    {K::Button, "cmdRead", -1, 1100, 3100, 900, 375, "Read"},
+    {K::Button, "cmdDelete", -1, 2100, 3100, 900, 375, "Delete"},
+};
+
+class frmTestLauncher : public Form {
+public:
+    explicit frmTestLauncher(Runtime& runtime) : Form(runtime, "frmTestLauncher") {
+        add(kLayout);
+        on("cmdOpen", Ev::Click, [this](EventArgs&) { cmdOpen_Click(); });
+        on("cmdWrite", Ev::Click, [this](EventArgs&) { WriteFileAtomic(AppFile(c("txtFile").text()), c("txtContent").text()); });
+        on("cmdRead", Ev::Click, [this](EventArgs&) { cmdRead_Click(); });
+        on("cmdDelete", Ev::Click, [this](EventArgs&) { std::remove(AppFile(c("txtFile").text()).c_str()); });
+    }
+
+private:
+    // As a game button of the selector does.
+    void cmdOpen_Click() {
+        Form& selector = runtime().load("frmSelect");
+        selector.setMousePointer(11);
+        AppTitle = kTestGameTitle;
+        runtime().show("frmTestGame");
+        selector.setMousePointer(0);
+        runtime().hide(selector);
+    }
+
+    void cmdRead_Click() {
+        std::string text;
+        c("txtContent").setText(ReadWholeFile(AppFile(c("txtFile").text()), text) ? text : "<missing>");
+    }
+};
+}  // namespace
+
+void RegisterTestForms(Runtime& runtime) {
+    runtime.registerForm("frmTestLauncher", [](Runtime& rt) { return std::make_unique<frmTestLauncher>(rt); });
+    RegisterTestGame(runtime);
+}
+
+void ShowTestLauncher(Runtime& runtime) { runtime.show("frmTestLauncher"); }
+
+}  // namespace ch

@@ -1,0 +1,14 @@
+// Windows that exist only in the test driver (cardhaven-shell-script): a
+// small game window built from the shared pieces exactly as a game is, and a
+// launcher that opens it and reads and writes files in AppPath for scripts.
+#pragma once
+
+namespace ch {
+
+class Runtime;
+
+void RegisterTestForms(Runtime& runtime);
+// Shows frmTestLauncher beside the selector.
+void ShowTestLauncher(Runtime& runtime);
+
+}  // namespace ch
