@@ -1,0 +1,215 @@
+// cardhaven [--home DIR] [ARGUMENTS...]
+// The desktop program: the Qt thread shows the windows and plays the sounds,
+// the logic runs on a thread of its own. Arguments other than the options
+// below form the command line the game windows see.
+//
+// Debug options: --data DIR (wave and music files), --script FILE (see
+// src/qt/driver.h), --shots DIR (where the script's shots go), --list-games
+// (the game windows of this build), --report-startup (prints when the first
+// window has been painted), --write-icon FILE SIZE (the icon as a PNG).
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QIcon>
+#include <QStandardPaths>
+#include <QTextStream>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+#include <iostream>
+#include <thread>
+#include <unistd.h>
+
+#include "games/games.h"
+#include "qt/cardart.h"
+#include "qt/driver.h"
+#include "qt/qtplatform.h"
+#include "qt/renderer.h"
+#include "qt/sound.h"
+#include "suite/suite.h"
+#include "window/headless.h"
+#include "window/runtime.h"
+
+namespace {
+
+struct Options {
+    ch::SuiteOptions suite;
+    QString script;
+    QString shots = QStringLiteral(".");
+    bool listGames = false;
+    bool reportStartup = false;
+    QString iconFile;
+    int iconSize = 256;
+};
+
+void Usage() {
+    std::cerr << "usage: cardhaven [--home DIR] [ARGUMENTS...]\n";
+    std::exit(2);
+}
+
+Options ParseArguments(int argc, char** argv) {
+    Options o;
+    std::string command;
+    for (int i = 1; i < argc; ++i) {
+        const std::string arg = argv[i];
+        auto value = [&]() -> std::string {
+            if (i + 1 >= argc) Usage();
+            return argv[++i];
+        };
+        if (arg == "--home") o.suite.appPath = value();
+        else if (arg == "--data") o.suite.dataPath = value();
+        else if (arg == "--script") o.script = QString::fromStdString(value());
+        else if (arg == "--shots") o.shots = QString::fromStdString(value());
+        else if (arg == "--list-games") o.listGames = true;
+        else if (arg == "--report-startup") o.reportStartup = true;
+        else if (arg == "--write-icon") {
+            o.iconFile = QString::fromStdString(value());
+            o.iconSize = std::atoi(value().c_str());
+        } else {
+            if (!command.empty()) command += ' ';
+            command += arg;
+        }
+    }
+    o.suite.commandLine = command;
+    return o;
+}
+
+std::string ProgramFolder() {
+    std::error_code ec;
+    const auto exe = std::filesystem::read_symlink("/proc/self/exe", ec);
+    return ec ? std::string(".") : exe.parent_path().string();
+}
+
+// The program's folder when it is writable (a build tree, a portable copy),
+// else the user's data folder.
+std::string DefaultHome(const std::string& programFolder) {
+    if (access(programFolder.c_str(), W_OK) == 0) return programFolder;
+    const char* xdg = std::getenv("XDG_DATA_HOME");
+    const char* home = std::getenv("HOME");
+    std::string base = xdg && *xdg ? xdg : std::string(home ? home : ".") + "/.local/share";
+    std::string folder = base + "/cardhaven";
+    std::error_code ec;
+    std::filesystem::create_directories(folder, ec);
+    return folder;
+}
+
+std::string DefaultData(const std::string& programFolder) {
+    for (const std::string& candidate : {programFolder + "/data", programFolder + "/../share/cardhaven"})
+        if (std::filesystem::exists(candidate + "/Chord.wav")) return candidate;
+    return programFolder + "/data";
+}
+
+// Messages of Qt's audio back end where there is no audio device.
+void QuietHandler(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    static const char* const kDropped[] = {"No audio device", "audio device", "pulseaudio", "PulseAudio",
+                                           "QAudioSink", "ALSA"};
+    for (const char* dropped : kDropped)
+        if (text.contains(QLatin1String(dropped))) return;
+    if (type == QtDebugMsg || type == QtInfoMsg) return;
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+int ListGames() {
+    ch::HeadlessPlatform platform;
+    ch::Runtime runtime(platform);
+    ch::RegisterGameForms(runtime);
+    for (const ch::GameChoice& game : ch::kGameChoices)
+        if (runtime.isKnownForm(game.form)) std::printf("%s %s\n", game.button, game.form);
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    Options options = ParseArguments(argc, argv);
+    if (options.listGames) return ListGames();
+
+    // Qt's audio wants a runtime folder; a private one where the session has none.
+    std::string runtimeDir;
+    if (!std::getenv("XDG_RUNTIME_DIR")) {
+        std::string pattern = (std::filesystem::temp_directory_path() / "cardhaven-run-XXXXXX").string();
+        if (mkdtemp(pattern.data())) {
+            runtimeDir = pattern;
+            setenv("XDG_RUNTIME_DIR", runtimeDir.c_str(), 1);
+        }
+    }
+    qInstallMessageHandler(QuietHandler);
+
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("cardhaven"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Quillmark's Card Haven"));
+    QApplication::setDesktopFileName(QStringLiteral("cardhaven"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    if (!options.iconFile.isEmpty()) {
+        const bool ok = ch::AppIconPixmap(options.iconSize).save(options.iconFile);
+        return ok ? 0 : 1;
+    }
+    QIcon icon;
+    for (int size : {16, 32, 48, 64}) icon.addPixmap(ch::AppIconPixmap(size, app.devicePixelRatio()));
+    QApplication::setWindowIcon(icon);
+
+    const std::string programFolder = ProgramFolder();
+    if (options.suite.appPath.empty()) options.suite.appPath = DefaultHome(programFolder);
+    if (options.suite.dataPath.empty()) options.suite.dataPath = DefaultData(programFolder);
+
+    int status = 0;
+    {
+        ch::SoundSystem sound(QString::fromStdString(options.suite.dataPath));
+        ch::QtPlatform* platformPtr = nullptr;
+        ch::Renderer renderer([&platformPtr](const ch::InputEvent& e) { platformPtr->post(e); });
+        ch::QtPlatform platform(renderer, sound);
+        platformPtr = &platform;
+
+        if (options.reportStartup) {
+            renderer.setFirstPaintHook([] {
+                timespec ts{};
+                clock_gettime(CLOCK_REALTIME, &ts);
+                std::printf("shown_at_ns %lld\n", static_cast<long long>(ts.tv_sec) * 1000000000LL + ts.tv_nsec);
+                std::fflush(stdout);
+            });
+        }
+
+        std::unique_ptr<ch::ScriptDriver> driver;
+        if (!options.script.isEmpty()) {
+            QFile file(options.script);
+            if (!file.open(QIODevice::ReadOnly)) {
+                std::fprintf(stderr, "cardhaven: cannot read %s\n", qPrintable(options.script));
+                return 2;
+            }
+            const QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
+            driver = std::make_unique<ch::ScriptDriver>(
+                lines, options.shots, renderer, sound, [&platform](const ch::InputEvent& e) { platform.post(e); },
+                [&platform] {
+                    platform.requestStop();
+                });
+            driver->start();
+        }
+
+        std::thread logic([&] {
+            int result = 0;
+            try {
+                ch::Runtime runtime(platform);
+                ch::RegisterGameForms(runtime);
+                ch::StartSuite(runtime, options.suite);
+                runtime.run();
+            } catch (const ch::StopRun&) {
+            } catch (const std::exception& e) {
+                std::fprintf(stderr, "cardhaven: %s\n", e.what());
+                result = 1;
+            }
+            QMetaObject::invokeMethod(&app, [result] { QCoreApplication::exit(result); }, Qt::QueuedConnection);
+        });
+        status = app.exec();
+        platform.requestStop();
+        logic.join();
+        driver.reset();
+    }
+    if (!runtimeDir.empty()) {
+        std::error_code ec;
+        std::filesystem::remove_all(runtimeDir, ec);
+    }
+    return status;
+}

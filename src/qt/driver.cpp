@@ -1,0 +1,139 @@
+#include "qt/driver.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <QRegularExpression>
+#include <QTimer>
+#include <QWidget>
+#include <cstdio>
+
+#include "qt/renderer.h"
+#include "qt/sound.h"
+#include "window/platform.h"
+
+namespace ch {
+
+long PeakMemoryKb() {
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly)) return 0;
+    for (const QByteArray& line : status.readAll().split('\n'))
+        if (line.startsWith("VmHWM:")) return line.mid(6).trimmed().split(' ').value(0).toLong();
+    return 0;
+}
+
+ScriptDriver::ScriptDriver(QStringList lines, QString shotFolder, Renderer& renderer, SoundSystem& sound, Sink sink,
+                           std::function<void()> quit, QObject* parent)
+    : QObject(parent),
+      lines_(std::move(lines)),
+      shots_(std::move(shotFolder)),
+      renderer_(renderer),
+      sound_(sound),
+      sink_(std::move(sink)),
+      quit_(std::move(quit)) {}
+
+void ScriptDriver::start() { QTimer::singleShot(0, this, [this] { step(); }); }
+
+void ScriptDriver::fail(const QString& text) {
+    std::fprintf(stderr, "cardhaven: script line %d: %s\n", next_, qPrintable(text));
+}
+
+void ScriptDriver::step() {
+    while (next_ < lines_.size()) {
+        const QString line = lines_[next_++].trimmed();
+        if (line.isEmpty() || line.startsWith('#')) continue;
+        const QStringList words = line.split(QRegularExpression(QStringLiteral("\\s+")));
+        int waitMs = 0;
+        if (!execute(words, waitMs)) return;
+        if (waitMs > 0) {
+            QTimer::singleShot(waitMs, this, [this] { step(); });
+            return;
+        }
+    }
+}
+
+bool ScriptDriver::execute(const QStringList& words, int& waitMs) {
+    const QString cmd = words[0];
+    const QString arg = words.value(1);
+    if (cmd == "wait") {
+        waitMs = std::max(1, arg.toInt());
+        return true;
+    }
+    if (cmd == "click" || cmd == "dblclick") {
+        static const QRegularExpression ref(QStringLiteral("^(\\w+)\\.(\\w+)(?:\\((\\d+)\\))?$"));
+        const auto m = ref.match(arg);
+        if (!m.hasMatch()) {
+            fail("bad reference " + arg);
+            return true;
+        }
+        InputEvent e;
+        e.kind = cmd == "click" ? InputKind::Click : InputKind::DblClick;
+        e.form = m.captured(1).toStdString();
+        e.control = m.captured(2).toStdString();
+        e.index = m.captured(3).isEmpty() ? -1 : m.captured(3).toInt();
+        sink_(e);
+        waitMs = 1;
+        return true;
+    }
+    if (cmd == "close") {
+        InputEvent e;
+        e.kind = InputKind::Close;
+        e.form = arg.toStdString();
+        sink_(e);
+        waitMs = 1;
+        return true;
+    }
+    if (cmd == "answer") {
+        const QString want = arg.toLower();
+        for (QWidget* w : QApplication::topLevelWidgets()) {
+            auto* box = qobject_cast<QMessageBox*>(w);
+            if (!box || !box->isVisible()) continue;
+            for (QAbstractButton* button : box->buttons()) {
+                QString text = button->text().remove('&').toLower();
+                if (text == want) {
+                    button->click();
+                    waitMs = 1;
+                    return true;
+                }
+            }
+        }
+        fail("no message box with a button " + arg);
+        return true;
+    }
+    if (cmd == "shot") {
+        QDir().mkpath(shots_);
+        for (const auto& [form, window] : renderer_.visibleWindows()) {
+            const QString file = shots_ + '/' + arg + '-' + QString::fromStdString(form) + ".png";
+            if (!window->grab().save(file)) fail("cannot write " + file);
+        }
+        for (QWidget* w : QApplication::topLevelWidgets()) {
+            if (auto* box = qobject_cast<QMessageBox*>(w); box && box->isVisible())
+                box->grab().save(shots_ + '/' + arg + "-msgbox.png");
+        }
+        return true;
+    }
+    if (cmd == "wave") {
+        sound_.playWave(arg);
+        return true;
+    }
+    if (cmd == "music") {
+        if (arg == "on") sound_.startMusic();
+        else sound_.stopMusic();
+        return true;
+    }
+    if (cmd == "memory") {
+        std::printf("peak_kb %ld\n", PeakMemoryKb());
+        std::fflush(stdout);
+        return true;
+    }
+    if (cmd == "quit") {
+        quit_();
+        return false;
+    }
+    fail("unknown command " + cmd);
+    return true;
+}
+
+}  // namespace ch
