@@ -5,4 +5,4 @@ cd "$(dirname "$0")"
 source tools/setup.sh
 cardhaven_install
 cardhaven_build build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCARDHAVEN_TESTS=OFF
-exec build/cardhaven-script --data build/data "$@"
+exec build/cardhaven "$@"

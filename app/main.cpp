@@ -6,12 +6,14 @@
 // Debug options: --data DIR (wave and music files), --script FILE (see
 // src/qt/driver.h), --shots DIR (where the script's shots go), --list-games
 // (the game windows of this build), --report-startup (prints when the first
-// window has been painted), --write-icon FILE SIZE (the icon as a PNG).
+// window has been painted), --write-icon FILE SIZE (the icon as a PNG),
+// --card-sheet FILE RATIO (every picture of the catalogue on one PNG).
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QIcon>
+#include <QPainter>
 #include <QStandardPaths>
 #include <QTextStream>
 #include <cstdio>
@@ -28,6 +30,7 @@
 #include "qt/qtplatform.h"
 #include "qt/renderer.h"
 #include "qt/sound.h"
+#include "suite/cards.h"
 #include "suite/suite.h"
 #include "window/headless.h"
 #include "window/runtime.h"
@@ -42,6 +45,8 @@ struct Options {
     bool reportStartup = false;
     QString iconFile;
     int iconSize = 256;
+    QString sheetFile;
+    double sheetRatio = 1;
 };
 
 void Usage() {
@@ -67,6 +72,9 @@ Options ParseArguments(int argc, char** argv) {
         else if (arg == "--write-icon") {
             o.iconFile = QString::fromStdString(value());
             o.iconSize = std::atoi(value().c_str());
+        } else if (arg == "--card-sheet") {
+            o.sheetFile = QString::fromStdString(value());
+            o.sheetRatio = std::atof(value().c_str());
         } else {
             if (!command.empty()) command += ' ';
             command += arg;
@@ -111,6 +119,28 @@ void QuietHandler(QtMsgType type, const QMessageLogContext&, const QString& text
     std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
+// Every catalogue entry at its own size, thirteen to a row, on a green table.
+bool WriteCardSheet(const QString& file, qreal ratio) {
+    const int cell = 84, rowHeight = 110, columns = 13, rows = 6;
+    QImage sheet(qRound(columns * cell * ratio + 8 * ratio), qRound(rows * rowHeight * ratio + 8 * ratio),
+                 QImage::Format_ARGB32_Premultiplied);
+    sheet.setDevicePixelRatio(ratio);
+    sheet.fill(QColor(0x1E, 0x6B, 0x3A));
+    QPainter p(&sheet);
+    auto place = [&](int index, int slot) {
+        const QPixmap pixmap = ch::CardPixmap(index, ratio);
+        p.drawPixmap(QPointF(8 + slot % columns * cell, 8 + slot / columns * rowHeight), pixmap);
+    };
+    int slot = 0;
+    for (int i = ch::ImageCatalogue::kFirstFace; i <= ch::ImageCatalogue::kLastFace; ++i) place(i, slot++);
+    for (int i = 1; i <= 12; ++i) place(i, slot++);
+    for (int i : {ch::ImageCatalogue::kEmptyPlace, ch::ImageCatalogue::kPointer, ch::ImageCatalogue::kEmpty76x100,
+                  ch::ImageCatalogue::kSumfallSplash})
+        place(i, slot++);
+    p.end();
+    return sheet.save(file);
+}
+
 int ListGames() {
     ch::HeadlessPlatform platform;
     ch::Runtime runtime(platform);
@@ -147,6 +177,7 @@ int main(int argc, char** argv) {
         const bool ok = ch::AppIconPixmap(options.iconSize).save(options.iconFile);
         return ok ? 0 : 1;
     }
+    if (!options.sheetFile.isEmpty()) return WriteCardSheet(options.sheetFile, options.sheetRatio) ? 0 : 1;
     QIcon icon;
     for (int size : {16, 32, 48, 64}) icon.addPixmap(ch::AppIconPixmap(size, app.devicePixelRatio()));
     QApplication::setWindowIcon(icon);

@@ -3,7 +3,9 @@
 # rebuilds only what changed.
 set -euo pipefail
 
-CARDHAVEN_PACKAGES=(cmake ninja-build g++ libgtest-dev)
+CARDHAVEN_PACKAGES=(cmake ninja-build g++ libgtest-dev pkg-config
+    qt6-base-dev qt6-base-dev-tools qt6-multimedia-dev libgl-dev libfluidsynth-dev timgm6mb-soundfont
+    fonts-dejavu-core xvfb xauth imagemagick xdotool)
 
 cardhaven_install() {
     local missing=()

@@ -116,7 +116,7 @@ void DrawPip(QPainter& p, Suit suit, qreal cx, qreal cy, qreal size, bool invert
 }
 
 QFont IndexFont(qreal pixelHeight, bool condensed) {
-    QFont f(QStringLiteral("DejaVu Serif"));
+    QFont f(QStringLiteral("DejaVu Sans"));
     f.setBold(true);
     f.setPixelSize(qMax(1, qRound(pixelHeight)));
     if (condensed) f.setStretch(QFont::Condensed);
@@ -242,9 +242,8 @@ void DrawFace(QPainter& p, int rank, Suit suit, qreal w, qreal h) {
         return;
     }
     if (rank <= 10) {
-        const qreal pip = w * 0.17;
-        const QRectF spots(area.left() + pip * 0.1, area.top() + pip * 0.55, area.width() - pip * 0.2,
-                           area.height() - pip * 1.1);
+        const qreal pip = w * 0.155;
+        const QRectF spots(w * 0.335, h * 0.2, w * 0.33, h * 0.6);
         for (const Spot& s : PipSpots(rank)) {
             const qreal x = spots.left() + s.x * spots.width();
             const qreal y = spots.top() + s.y * spots.height();
@@ -267,18 +266,23 @@ void DrawFace(QPainter& p, int rank, Suit suit, qreal w, qreal h) {
             p.translate(w, h);
             p.rotate(180);
         }
-        const QRectF emblem(panel.left() + panel.width() * 0.2, panel.top() + panel.height() * 0.05,
-                            panel.width() * 0.6, panel.height() * 0.16);
+        const QRectF emblem(panel.left() + panel.width() * 0.18, panel.top() + panel.height() * 0.05,
+                            panel.width() * 0.64, panel.height() * 0.17);
         DrawCourtEmblem(p, rank, emblem, ink);
-        p.setFont(IndexFont(panel.height() * 0.24, false));
+        QFont letter(QStringLiteral("DejaVu Serif"));
+        letter.setBold(true);
+        letter.setPixelSize(qMax(1, qRound(panel.height() * 0.2)));
+        p.setFont(letter);
         p.setPen(ink);
-        p.drawText(QRectF(panel.left(), emblem.bottom(), panel.width(), panel.height() * 0.25), Qt::AlignCenter,
-                   RankText(rank));
+        const QRectF line(panel.left(), emblem.bottom() + panel.height() * 0.02, panel.width(), panel.height() * 0.2);
+        p.drawText(line, Qt::AlignCenter, RankText(rank));
+        DrawPip(p, suit, panel.left() + panel.width() * 0.17, line.center().y(), panel.width() * 0.18);
+        DrawPip(p, suit, panel.right() - panel.width() * 0.17, line.center().y(), panel.width() * 0.18);
         p.restore();
     }
     p.setPen(QPen(kGold, qMax<qreal>(0.5, w / 110.0)));
     p.drawLine(QPointF(panel.left() + 2, h / 2), QPointF(panel.right() - 2, h / 2));
-    DrawPip(p, suit, w / 2, h / 2, panel.width() * 0.3);
+    DrawPip(p, suit, w / 2, h / 2, panel.width() * 0.2);
 }
 
 // ---- card backs -----------------------------------------------------------
@@ -469,7 +473,7 @@ void DrawStack(QPainter& p, int design, qreal w, qreal h, int layers) {
     for (int i = layers; i >= 1; --i) {
         p.save();
         p.translate(dx * i, dy * i);
-        CardBlank(p, cardW, cardH, i % 2 ? QColor(0xF4, 0xF4, 0xF0) : QColor(0xE4, 0xE4, 0xDE));
+        CardBlank(p, cardW, cardH, i % 2 ? QColor(0xF7, 0xF7, 0xF2) : QColor(0xC8, 0xC8, 0xC0));
         p.restore();
     }
     DrawBack(p, design, cardW, cardH);

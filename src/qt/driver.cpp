@@ -9,6 +9,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <cstdio>
+#include <sys/resource.h>
 
 #include "qt/renderer.h"
 #include "qt/sound.h"
@@ -125,6 +126,26 @@ bool ScriptDriver::execute(const QStringList& words, int& waitMs) {
     }
     if (cmd == "memory") {
         std::printf("peak_kb %ld\n", PeakMemoryKb());
+        std::fflush(stdout);
+        return true;
+    }
+    if (cmd == "cpu") {
+        // "cpu start" marks the processor time used so far, "cpu stop" prints
+        // the time used since, by all threads, in milliseconds.
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        const long ms = (usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) * 1000L +
+                        (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1000L;
+        if (arg == "start") {
+            cpuMark_ = ms;
+        } else {
+            std::printf("cpu_ms %ld\n", ms - cpuMark_);
+            std::fflush(stdout);
+        }
+        return true;
+    }
+    if (cmd == "sounds") {
+        std::printf("waves_started %d music %s\n", sound_.wavesStarted(), sound_.musicPlaying() ? "on" : "off");
         std::fflush(stdout);
         return true;
     }

@@ -9,6 +9,8 @@
 //   shot NAME                writes NAME-FORM.png of each window shown
 //   wave FILE, music on|off  sound requests, as the games make them
 //   memory                   prints "peak_kb N", the peak resident memory
+//   cpu start|stop           "cpu stop" prints "cpu_ms N", processor time since start
+//   sounds                   prints how many waves were started and if music plays
 //   quit                     ends the program
 // Lines starting with # are comments.
 #pragma once
@@ -43,6 +45,7 @@ private:
     SoundSystem& sound_;
     Sink sink_;
     std::function<void()> quit_;
+    long cpuMark_ = 0;
 };
 
 // The peak resident memory of this process in kilobytes, 0 when unknown.

@@ -55,6 +55,25 @@ void Bevel(QPainter& p, const QRectF& r, bool sunken) {
     p.drawLine(QPointF(r.right() - 0.5, r.bottom() - 0.5), QPointF(r.left() + 0.5, r.bottom() - 0.5));
 }
 
+// The client area below the menu bar; tells its window when it was first painted.
+class ClientArea : public QWidget {
+public:
+    ClientArea(QWidget* parent, std::function<void()> painted) : QWidget(parent), painted_(std::move(painted)) {}
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QWidget::paintEvent(event);
+        if (painted_) {
+            auto hook = std::move(painted_);
+            painted_ = nullptr;
+            hook();
+        }
+    }
+
+private:
+    std::function<void()> painted_;
+};
+
 }  // namespace
 
 // ---- views ------------------------------------------------------------------
@@ -99,12 +118,11 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
-
 private:
     void applyControls(const FormSnap& form);
     void applyMenus(const FormSnap& form);
     void applyCommon(View& view, const ControlSnap& s);
+    void applyCursor(View& view);
     void restack();
     void layoutClient();
     QSize clientSizeFor(int widthTw, int heightTw) const;
@@ -125,8 +143,7 @@ private:
     bool placed_ = false;
     bool modal_ = false;
     int formPointer_ = 0;
-    bool painted_ = false;
-    std::string stackSignature_;
+    std::vector<View*> stacked_;
     View* statusBar_ = nullptr;
 };
 
@@ -477,7 +494,7 @@ FormWindow::FormWindow(Renderer& renderer, const FormSnap& form)
     : renderer_(&renderer), name_(form.name), instance_(form.instance) {
     setAttribute(Qt::WA_DeleteOnClose, false);
     setFocusPolicy(Qt::StrongFocus);
-    client_ = new QWidget(this);
+    client_ = new ClientArea(this, [this] { renderer_->firstPainted(); });
     client_->setAutoFillBackground(true);
     for (const ControlSnap& s : form.controls)
         if (s.kind == ControlKind::Menu) hasMenu_ = true;
@@ -524,9 +541,13 @@ void FormWindow::apply(const FormSnap& form) {
     QPalette pal = client_->palette();
     pal.setColor(QPalette::Window, Rgb(form.backColor));
     client_->setPalette(pal);
+    const bool pointerChanged = formPointer_ != form.mousePointer;
     formPointer_ = form.mousePointer;
     setCursor(cursorFor(form.mousePointer, form.mouseIcon));
+    if (pointerChanged)
+        for (View* view : ordered_) applyCursor(*view);
 
+    applyMenus(form);
     if (form.width != modelWidth_ || form.height != modelHeight_) {
         modelWidth_ = form.width;
         modelHeight_ = form.height;
@@ -539,7 +560,6 @@ void FormWindow::apply(const FormSnap& form) {
     if (!placed_) {
         move(Px(form.left), Px(form.top));
     }
-    applyMenus(form);
     applyControls(form);
 
     if (form.visible) {
@@ -616,7 +636,6 @@ void FormWindow::applyControls(const FormSnap& form) {
 }
 
 void FormWindow::applyCommon(View& view, const ControlSnap& s) {
-    const ControlSnap old = view.snap();
     view.setSnap(s);
     QWidget* w = view.widget();
     if (s.kind == ControlKind::Line) {
@@ -629,15 +648,23 @@ void FormWindow::applyCommon(View& view, const ControlSnap& s) {
         w->setFont(ControlFont(s.fontName, s.fontSize, s.fontBold));
     w->setEnabled(s.enabled);
     if (w->toolTip() != Q(s.toolTip)) w->setToolTip(Q(s.toolTip));
+    applyCursor(view);
+    view.show(s);
+    w->setVisible(s.visible);
+}
+
+// The hourglass of the form covers every control while the logic is busy.
+void FormWindow::applyCursor(View& view) {
+    const ControlSnap& s = view.snap();
+    QWidget* w = view.widget();
     if (formPointer_ == 11) w->setCursor(Qt::WaitCursor);
     else if (s.mousePointer != 0) w->setCursor(cursorFor(s.mousePointer, s.mouseIcon));
     else w->unsetCursor();
-    view.show(s);
-    w->setVisible(s.visible);
-    (void)old;
 }
 
-// Windowed controls above the drawn ones; within each layer by z-order.
+// Windowed controls above the drawn ones; within each layer by z-order. When
+// one control alone has moved (ZOrder on one card), only that one is restacked,
+// so that the rest of the window needn't be repainted.
 void FormWindow::restack() {
     std::vector<View*> order = ordered_;
     std::stable_sort(order.begin(), order.end(), [](View* a, View* b) {
@@ -645,11 +672,28 @@ void FormWindow::restack() {
         if (wa != wb) return !wa;
         return a->snap().z < b->snap().z;
     });
-    std::string signature;
-    for (View* v : order) signature += v->snap().key() + ';';
-    if (signature == stackSignature_) return;
-    stackSignature_ = signature;
-    for (View* v : order) v->widget()->raise();
+    if (order == stacked_) return;
+    auto without = [](std::vector<View*> list, View* v) {
+        list.erase(std::remove(list.begin(), list.end(), v), list.end());
+        return list;
+    };
+    View* moved = nullptr;
+    if (order.size() == stacked_.size()) {
+        size_t d = 0;
+        while (order[d] == stacked_[d]) ++d;
+        for (View* candidate : {order[d], stacked_[d]})
+            if (!moved && without(order, candidate) == without(stacked_, candidate)) moved = candidate;
+    }
+    if (moved) {
+        const size_t at = static_cast<size_t>(std::find(order.begin(), order.end(), moved) - order.begin());
+        if (at + 1 < order.size() && order[at + 1]->widget()->parentWidget() == moved->widget()->parentWidget())
+            moved->widget()->stackUnder(order[at + 1]->widget());
+        else
+            moved->widget()->raise();
+    } else {
+        for (View* v : order) v->widget()->raise();
+    }
+    stacked_ = std::move(order);
 }
 
 void FormWindow::layoutClient() {
@@ -794,14 +838,6 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
             }
     }
     if (target) target->send(InputKind::Key, 0, {}, key);
-}
-
-void FormWindow::paintEvent(QPaintEvent* event) {
-    QWidget::paintEvent(event);
-    if (!painted_) {
-        painted_ = true;
-        renderer_->firstPainted();
-    }
 }
 
 // ---- renderer ---------------------------------------------------------------------

@@ -86,7 +86,8 @@ void NoiseBurst(Samples& out, double at, double seconds, double gain, double dec
 bool WriteWave(const std::string& path, const Samples& samples) {
     double peak = 0;
     for (double s : samples) peak = std::max(peak, std::fabs(s));
-    const double scale = peak > 0.89 ? 0.89 / peak : 1.0;
+    // Every effect at the same peak level, so that none drowns another.
+    const double scale = peak > 0 ? 0.75 / peak : 1.0;
     std::vector<int16_t> pcm;
     pcm.reserve(samples.size());
     for (double s : samples) pcm.push_back(static_cast<int16_t>(std::lround(std::clamp(s * scale, -1.0, 1.0) * 32767)));

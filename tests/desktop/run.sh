@@ -1,0 +1,38 @@
+#!/usr/bin/env bash
+# tests/desktop/run.sh PROGRAM SCRIPT
+# Runs the desktop program under a virtual X server with a driver script and
+# a fresh home folder. Passes when the program ends with status 0 and writes
+# nothing to standard error, and every "expect-out TEXT" line of the script
+# is found in what it printed.
+set -u
+program=$1
+script=$2
+home=$(mktemp -d)
+trap 'rm -rf "$home"' EXIT
+# The program makes its own runtime folder where the session has none.
+unset XDG_RUNTIME_DIR
+cd /
+timeout 120 xvfb-run -a -s "-screen 0 1280x1024x24 -nolisten tcp" \
+    "$program" --home "$home" --shots "$home/shots" --script "$script" >"$home/out" 2>"$home/err"
+status=$?
+failed=0
+if [ "$status" -ne 0 ]; then
+    echo "exit status $status"
+    failed=1
+fi
+if [ -s "$home/err" ]; then
+    echo "standard error was not empty:"
+    cat "$home/err"
+    failed=1
+fi
+while IFS= read -r want; do
+    if ! grep -qxF -- "$want" "$home/out"; then
+        echo "missing output: $want"
+        failed=1
+    fi
+done < <(sed -n 's/^# expect-out //p' "$script")
+if [ "$failed" -ne 0 ]; then
+    echo "--- output:"
+    cat "$home/out"
+fi
+exit $failed

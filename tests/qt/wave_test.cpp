@@ -1,0 +1,140 @@
+// The wave reader and the files the sound generator makes.
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QtEndian>
+
+#include "qt/sound.h"
+
+namespace {
+
+QByteArray Wave(int rate, int channels, int bits, int format, const QByteArray& pcm) {
+    QByteArray out("RIFF");
+    auto u32 = [&](quint32 v) {
+        char b[4];
+        qToLittleEndian(v, b);
+        out.append(b, 4);
+    };
+    auto u16 = [&](quint16 v) {
+        char b[2];
+        qToLittleEndian(v, b);
+        out.append(b, 2);
+    };
+    u32(quint32(36 + pcm.size()));
+    out.append("WAVEfmt ");
+    u32(16);
+    u16(quint16(format));
+    u16(quint16(channels));
+    u32(quint32(rate));
+    u32(quint32(rate * channels * bits / 8));
+    u16(quint16(channels * bits / 8));
+    u16(quint16(bits));
+    out.append("data");
+    u32(quint32(pcm.size()));
+    out.append(pcm);
+    return out;
+}
+
+QByteArray ReadData(const char* name) {
+    QFile f(QStringLiteral(CARDHAVEN_DATA_DIR "/") + name);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+}  // namespace
+
+TEST(ReadWave, TakesSixteenBitPcmInOneOrTwoChannels) {
+    int rate = 0, channels = 0;
+    QByteArray pcm;
+    ASSERT_TRUE(ch::ReadWave(Wave(22050, 1, 16, 1, QByteArray(100, 'x')), rate, channels, pcm));
+    EXPECT_EQ(rate, 22050);
+    EXPECT_EQ(channels, 1);
+    EXPECT_EQ(pcm.size(), 100);
+    ASSERT_TRUE(ch::ReadWave(Wave(44100, 2, 16, 1, QByteArray(102, 'x')), rate, channels, pcm));
+    EXPECT_EQ(channels, 2);
+    EXPECT_EQ(pcm.size(), 100) << "a partial frame at the end is dropped";
+}
+
+TEST(ReadWave, RefusesWhatItCannotPlayWithoutCrashing) {
+    int rate = 0, channels = 0;
+    QByteArray pcm;
+    EXPECT_FALSE(ch::ReadWave(Wave(22050, 1, 8, 1, QByteArray(10, 'x')), rate, channels, pcm)) << "8-bit";
+    EXPECT_FALSE(ch::ReadWave(Wave(22050, 1, 16, 3, QByteArray(10, 'x')), rate, channels, pcm)) << "float";
+    EXPECT_FALSE(ch::ReadWave(Wave(22050, 6, 16, 1, QByteArray(12, 'x')), rate, channels, pcm)) << "six channels";
+    EXPECT_FALSE(ch::ReadWave(QByteArray(), rate, channels, pcm));
+    EXPECT_FALSE(ch::ReadWave(QByteArray("RIFF\xff\xff\xff\xffWAVE", 12), rate, channels, pcm));
+    QByteArray cut = Wave(22050, 1, 16, 1, QByteArray(100, 'x'));
+    cut.chop(50);  // the data chunk claims more than the file holds
+    EXPECT_FALSE(ch::ReadWave(cut, rate, channels, pcm));
+    QByteArray huge = Wave(22050, 1, 16, 1, QByteArray(4, 'x'));
+    huge[16] = '\xff';  // a format chunk size far past the end
+    huge[17] = '\xff';
+    EXPECT_FALSE(ch::ReadWave(huge, rate, channels, pcm));
+}
+
+// Every effect the games ask for exists, and its length suits its use: a
+// score step is over before the next one 75 ms later, a refused click is
+// short, the fanfares are long enough to be heard as such.
+TEST(GeneratedSounds, EveryEffectHasALengthThatFitsItsUse) {
+    const struct {
+        const char* name;
+        int minMs, maxMs;
+    } effects[] = {
+        {"Applause.wav", 1500, 3000}, {"Busted.wav", 800, 2000},  {"Chord.wav", 100, 300},
+        {"Click.wav", 10, 80},        {"CountScore.wav", 200, 600}, {"HighScore.wav", 800, 2000},
+        {"Markq.wav", 50, 200},       {"Noise.wav", 200, 800},    {"Slide.wav", 100, 400},
+        {"Snap.wav", 10, 75},         {"Tick.wav", 30, 150},      {"TwentyOne.wav", 300, 900},
+        {"Wingame.wav", 1500, 3000},
+    };
+    for (const auto& e : effects) {
+        int rate = 0, channels = 0;
+        QByteArray pcm;
+        ASSERT_TRUE(ch::ReadWave(ReadData(e.name), rate, channels, pcm)) << e.name;
+        const int ms = static_cast<int>(pcm.size() / 2 / channels * 1000 / rate);
+        EXPECT_GE(ms, e.minMs) << e.name;
+        EXPECT_LE(ms, e.maxMs) << e.name;
+        // Not silent, and not clipped.
+        int peak = 0;
+        for (qsizetype i = 0; i + 1 < pcm.size(); i += 2)
+            peak = std::max(peak, std::abs(int(qFromLittleEndian<qint16>(pcm.constData() + i))));
+        EXPECT_GT(peak, 8000) << e.name;
+        EXPECT_LT(peak, 32000) << e.name;
+    }
+}
+
+// The tune is one standard MIDI track of about a minute.
+TEST(GeneratedSounds, TheTuneLastsAboutAMinute) {
+    const QByteArray midi = ReadData("Quillmark.MID");
+    ASSERT_GT(midi.size(), 22);
+    ASSERT_TRUE(midi.startsWith("MThd"));
+    const int ppq = qFromBigEndian<quint16>(midi.constData() + 12);
+    ASSERT_EQ(midi.mid(14, 4), QByteArray("MTrk"));
+    const quint32 size = qFromBigEndian<quint32>(midi.constData() + 18);
+    ASSERT_EQ(qsizetype(22 + size), midi.size());
+    // Walk the events: sum the deltas and read the tempo.
+    const auto* d = reinterpret_cast<const quint8*>(midi.constData());
+    qsizetype at = 22;
+    quint64 ticks = 0;
+    quint32 tempo = 500000;
+    quint8 status = 0;
+    int notes = 0;
+    while (at < midi.size()) {
+        quint32 delta = 0;
+        do delta = (delta << 7) | (d[at] & 0x7F);
+        while (d[at++] & 0x80);
+        ticks += delta;
+        if (d[at] == 0xFF) {
+            const quint8 type = d[at + 1];
+            const quint8 len = d[at + 2];
+            if (type == 0x51) tempo = quint32(d[at + 3]) << 16 | quint32(d[at + 4]) << 8 | d[at + 5];
+            at += 3 + len;
+            continue;
+        }
+        if (d[at] & 0x80) status = d[at++];
+        if ((status & 0xF0) == 0x90 && d[at + 1] > 0) ++notes;
+        at += (status & 0xF0) == 0xC0 || (status & 0xF0) == 0xD0 ? 1 : 2;
+    }
+    const double seconds = double(ticks) / ppq * tempo / 1e6;
+    EXPECT_GT(seconds, 50);
+    EXPECT_LT(seconds, 80);
+    EXPECT_GT(notes, 300);
+}
