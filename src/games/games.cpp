@@ -1,11 +1,10 @@
 #include "games/games.h"
 
+#include "games/sumfall/frmSumfall.h"
 #include "window/runtime.h"
 
 namespace ch {
 
-void RegisterGameForms(Runtime&) {
-    // Each game registers its window, dialogs and module variables here.
-}
+void RegisterGameForms(Runtime& runtime) { RegisterSumfall(runtime); }
 
 }  // namespace ch

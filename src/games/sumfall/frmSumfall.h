@@ -1,0 +1,112 @@
+// The Sumfall window: a field of 22 cards in six tiers, an up card pile and a
+// play pile. The player clicks exposed cards that total the card goal; two
+// rounds and, on a high enough score, a bonus round. Each procedure here
+// follows the game's description step by step.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "games/sumfall/modSumfall.h"
+#include "suite/gamewindow.h"
+#include "suite/settings.h"
+#include "window/form.h"
+
+namespace ch {
+
+class frmSumfall : public Form {
+public:
+    explicit frmSumfall(Runtime& runtime);
+
+    // Scoring values; the custom scoring dialog writes them (TimeBonus is shared).
+    int32_t BonusRoundScore = sumfall::kDefaultBonusRoundScore;
+    int32_t CompletionBonus = sumfall::kDefaultCompletionBonus;
+    int32_t CombinationBonus = sumfall::kDefaultCombinationBonus;
+
+    // The deck of each round as dealt: what Replay and saved games use.
+    std::vector<std::string> Round1Deck, Round2Deck, Round3Deck;
+
+    // Reads a saved game and starts its replay; false when it can't be read.
+    bool LoadSavedGame(const std::string& path);
+    // Ten blinks of the dial's last quarter in dark red.
+    void Flash();
+
+private:
+    // Events.
+    void Form_Load();
+    void Form_Activate();
+    void Form_Resize();
+    void Form_QueryUnload(EventArgs& args);
+    void cmdPlay_Click(bool fromMenu);
+    void cmdPause_Click();
+    void cmdTakeScore_Click(bool fromMenu);
+    void FieldCardPicture_Click(int index);
+    void FieldCardPicture_MouseMove(int index);
+    void UpCardPicture_Click();
+    void UpCardPicture_MouseMove();
+    void PlayCardPicture_Click();
+    void PlayCardPicture_MouseMove();
+    void Timer1_Timer();
+    void lblCurrentScore_Change();
+    void lblMessage_Change();
+    void mnuTime_Click(const char* menu);
+    void mnuGoal_Click(int goal);
+    void mnuColor_Click(int index);
+    void mnuDeck_Click(int design);
+    void mnuDrawTimer_Click();
+    void mnuClear_Click();
+
+    // The game.
+    bool CreateSumfallDeck();
+    bool Deal(bool newGame = false);
+    void Play();
+    void TakeScore();
+    void EndGame();
+    void PauseGame();
+    void ResumeGame();
+    void CheckTotal();
+    bool MoveUpCardToFieldArea();
+    bool CheckLegalFieldCardMove(int index) const;
+    bool CheckForCompletion() const;
+
+    // What the window shows.
+    void FieldCardDisplay(bool visible = true);
+    void SelRectangle(bool visible = true);
+    void CardTotalVisible(bool flag);
+    void ShowLowerCards(bool flag);
+    void DisableCommandButtons(bool flag);
+    void RefreshPlayCard();
+    void RefreshFieldCards();
+    void ShowFieldFaces();
+    void ShowTimerRect();
+    void SelectionColor(int index);
+    void ClearColorCheck();
+    void ShowScore();
+    void CentreIn(const char* label, const char* rectangle);
+    void PlaceBoard();
+    void Wave(const char* name) const;
+    SettingsLayout SettingsSections();
+
+    // The board.
+    std::array<std::string, sumfall::kFieldPlaces> FieldCards;
+    std::vector<std::string> UpCards = std::vector<std::string>(sumfall::kUpPileSize + 1);
+    int16_t UpCardIndex = 0;
+    std::vector<std::string> StockCards;
+    int16_t StockIndex = -1;
+    int16_t CurrentTotal = 0;
+    int32_t CombinationCount = 0;
+    int16_t CurrentRound = 1;
+    bool UpCardUsed = false;
+    int16_t SelectionColorIndex = sumfall::kDefaultSelectionColour;
+    bool ReplayPending = false;
+    // Sumfall counts its scores visibly by a switch of its own, not the shared one.
+    bool CountDownScore = true;
+    bool CommandLineTaken = false;
+    SplashAnimation Splash;
+};
+
+void RegisterSumfall(Runtime& runtime);
+
+}  // namespace ch
