@@ -10,6 +10,8 @@
 #include <QMediaDevices>
 #include <QTimer>
 #include <cstring>
+#include <dlfcn.h>
+#include <type_traits>
 
 namespace ch {
 
@@ -30,6 +32,56 @@ quint32 U32(const char* p) {
 quint16 U16(const char* p) { return quint16(quint8(p[0]) | quint8(p[1]) << 8); }
 
 void Quiet(int, const char*, void*) {}
+
+// FluidSynth and the many libraries it pulls in are loaded on the first
+// start of the music, so that they cost nothing at start-up.
+struct Fluid {
+#define CH_FLUID(name) decltype(&::name) name = nullptr;
+    CH_FLUID(new_fluid_settings)
+    CH_FLUID(fluid_settings_setnum)
+    CH_FLUID(fluid_settings_setint)
+    CH_FLUID(fluid_settings_setstr)
+    CH_FLUID(new_fluid_synth)
+    CH_FLUID(fluid_synth_sfload)
+    CH_FLUID(new_fluid_player)
+    CH_FLUID(fluid_player_add)
+    CH_FLUID(fluid_player_play)
+    CH_FLUID(fluid_player_stop)
+    CH_FLUID(fluid_player_get_status)
+    CH_FLUID(new_fluid_audio_driver)
+    CH_FLUID(delete_fluid_audio_driver)
+    CH_FLUID(delete_fluid_player)
+    CH_FLUID(delete_fluid_synth)
+    CH_FLUID(delete_fluid_settings)
+    CH_FLUID(fluid_set_log_function)
+#undef CH_FLUID
+
+    // Null when the library is missing or lacks a function.
+    static const Fluid* Get() {
+        static const Fluid* loaded = [] () -> const Fluid* {
+            void* lib = dlopen("libfluidsynth.so.3", RTLD_NOW | RTLD_LOCAL);
+            if (!lib) return nullptr;
+            static Fluid f;
+            bool complete = true;
+            auto bind = [&](auto& fn, const char* symbol) {
+                fn = reinterpret_cast<std::remove_reference_t<decltype(fn)>>(dlsym(lib, symbol));
+                complete = complete && fn;
+            };
+#define CH_BIND(name) bind(f.name, #name);
+            CH_BIND(new_fluid_settings) CH_BIND(fluid_settings_setnum) CH_BIND(fluid_settings_setint)
+            CH_BIND(fluid_settings_setstr) CH_BIND(new_fluid_synth) CH_BIND(fluid_synth_sfload)
+            CH_BIND(new_fluid_player) CH_BIND(fluid_player_add) CH_BIND(fluid_player_play)
+            CH_BIND(fluid_player_stop) CH_BIND(fluid_player_get_status) CH_BIND(new_fluid_audio_driver)
+            CH_BIND(delete_fluid_audio_driver) CH_BIND(delete_fluid_player) CH_BIND(delete_fluid_synth)
+            CH_BIND(delete_fluid_settings) CH_BIND(fluid_set_log_function)
+#undef CH_BIND
+            if (!complete) return nullptr;
+            for (int level = FLUID_PANIC; level <= FLUID_DBG; ++level) f.fluid_set_log_function(level, Quiet, nullptr);
+            return &f;
+        }();
+        return loaded;
+    }
+};
 }  // namespace
 
 bool ReadWave(const QByteArray& file, int& rate, int& channels, QByteArray& pcm) {
@@ -63,43 +115,48 @@ class MusicPlayer {
 public:
     static std::unique_ptr<MusicPlayer> Start(const QString& file) {
         if (!QFileInfo::exists(file) || !QFileInfo::exists(kSoundFont)) return nullptr;
-        auto m = std::make_unique<MusicPlayer>();
-        m->settings_ = new_fluid_settings();
-        fluid_settings_setnum(m->settings_, "synth.gain", 0.6);
-        fluid_settings_setint(m->settings_, "audio.period-size", 1024);
-        fluid_settings_setint(m->settings_, "audio.periods", 2);
-        fluid_settings_setint(m->settings_, "synth.cpu-cores", 1);
-        m->synth_ = new_fluid_synth(m->settings_);
-        if (!m->synth_ || fluid_synth_sfload(m->synth_, kSoundFont, 1) == FLUID_FAILED) return nullptr;
-        m->player_ = new_fluid_player(m->synth_);
-        if (!m->player_ || fluid_player_add(m->player_, file.toLocal8Bit().constData()) != FLUID_OK) return nullptr;
-        const char* drivers[] = {"pulseaudio", "alsa"};
-        for (const char* driver : drivers) {
+        const Fluid* api = Fluid::Get();
+        if (!api) return nullptr;
+        auto m = std::make_unique<MusicPlayer>(*api);
+        const Fluid& f = *api;
+        m->settings_ = f.new_fluid_settings();
+        if (!m->settings_) return nullptr;
+        f.fluid_settings_setnum(m->settings_, "synth.gain", 0.6);
+        f.fluid_settings_setint(m->settings_, "audio.period-size", 1024);
+        f.fluid_settings_setint(m->settings_, "audio.periods", 2);
+        f.fluid_settings_setint(m->settings_, "synth.cpu-cores", 1);
+        m->synth_ = f.new_fluid_synth(m->settings_);
+        if (!m->synth_ || f.fluid_synth_sfload(m->synth_, kSoundFont, 1) == FLUID_FAILED) return nullptr;
+        m->player_ = f.new_fluid_player(m->synth_);
+        if (!m->player_ || f.fluid_player_add(m->player_, file.toLocal8Bit().constData()) != FLUID_OK) return nullptr;
+        // ALSA prints to standard error where there is no sound card: only where there is one.
+        for (const char* driver : {"pulseaudio", "alsa"}) {
             if (std::strcmp(driver, "alsa") == 0 && !QFileInfo::exists("/dev/snd")) continue;
-            fluid_settings_setstr(m->settings_, "audio.driver", driver);
-            m->driver_ = new_fluid_audio_driver(m->settings_, m->synth_);
+            f.fluid_settings_setstr(m->settings_, "audio.driver", driver);
+            m->driver_ = f.new_fluid_audio_driver(m->settings_, m->synth_);
             if (m->driver_) break;
         }
         if (!m->driver_) return nullptr;
-        fluid_player_play(m->player_);
+        f.fluid_player_play(m->player_);
         return m;
     }
 
+    explicit MusicPlayer(const Fluid& api) : f_(api) {}
     ~MusicPlayer() {
-        if (player_) fluid_player_stop(player_);
-        if (driver_) delete_fluid_audio_driver(driver_);
-        if (player_) delete_fluid_player(player_);
-        if (synth_) delete_fluid_synth(synth_);
-        if (settings_) delete_fluid_settings(settings_);
+        // The driver goes before the synthesizer it pulls samples from.
+        if (player_) f_.fluid_player_stop(player_);
+        if (driver_) f_.delete_fluid_audio_driver(driver_);
+        if (player_) f_.delete_fluid_player(player_);
+        if (synth_) f_.delete_fluid_synth(synth_);
+        if (settings_) f_.delete_fluid_settings(settings_);
     }
-
-    bool done() const { return !player_ || fluid_player_get_status(player_) == FLUID_PLAYER_DONE; }
-
-    MusicPlayer() = default;
     MusicPlayer(const MusicPlayer&) = delete;
     MusicPlayer& operator=(const MusicPlayer&) = delete;
 
+    bool done() const { return !player_ || f_.fluid_player_get_status(player_) == FLUID_PLAYER_DONE; }
+
 private:
+    const Fluid& f_;
     fluid_settings_t* settings_ = nullptr;
     fluid_synth_t* synth_ = nullptr;
     fluid_player_t* player_ = nullptr;
@@ -197,12 +254,6 @@ void SoundSystem::closeSink() {
 }
 
 void SoundSystem::startMusic() {
-    static bool quieted = false;
-    if (!quieted) {
-        quieted = true;
-        for (int level = FLUID_PANIC; level <= FLUID_DBG; ++level)
-            fluid_set_log_function(level, Quiet, nullptr);
-    }
     music_.reset();
     music_ = MusicPlayer::Start(DataFile(dataPath_, "Quillmark.MID"));
     if (!music_) return;

@@ -11,6 +11,8 @@ home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
 # The program makes its own runtime folder where the session has none.
 unset XDG_RUNTIME_DIR
+# In a sanitizer build, leaks of the system libraries below Qt are not ours.
+export LSAN_OPTIONS="suppressions=$(cd "$(dirname "$0")" && pwd)/lsan.supp:print_suppressions=0${LSAN_OPTIONS:+:$LSAN_OPTIONS}"
 cd /
 timeout 120 xvfb-run -a -s "-screen 0 1280x1024x24 -nolisten tcp" \
     "$program" --home "$home" --shots "$home/shots" --script "$script" >"$home/out" 2>"$home/err"
