@@ -327,14 +327,13 @@ protected:
             const QRectF circle(item.x1 - item.radius, item.y1 - item.radius, 2 * item.radius, 2 * item.radius);
             switch (item.kind) {
                 case DrawItem::Kind::Pie: {
-                    // Angles run counter-clockwise from three o'clock; a minus
-                    // sign only asks for the radius lines, as on the original.
-                    const qreal start = std::fabs(item.startAngle);
-                    qreal span = std::fabs(item.endAngle) - start;
-                    while (span <= 0) span += 360;
+                    // Screen degrees: 0 at three o'clock, -90 at twelve, the
+                    // slice running clockwise from start to end. Qt counts
+                    // counter-clockwise, hence the signs.
+                    const qreal span = item.endAngle - item.startAngle;
                     p.setPen(QPen(Rgb(item.color), pen));
                     p.setBrush(Rgb(item.fillColor));
-                    p.drawPie(circle, qRound(start * 16), qRound(span * 16));
+                    p.drawPie(circle, qRound(-item.startAngle * 16), qRound(-span * 16));
                     break;
                 }
                 case DrawItem::Kind::Line:

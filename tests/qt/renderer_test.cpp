@@ -191,6 +191,34 @@ TEST(Renderer, TheSelectorShowsOnlyTheGamesOfThisBuild) {
     }
 }
 
+// The dial's pies are in screen degrees, clockwise from start to end: the
+// first quarter of a round fills the top right of the dial.
+TEST(Renderer, APieFromTwelveToThreeOclockFillsTheTopRightQuarter) {
+    HeadlessPlatform headless;
+    Runtime runtime(headless);
+    runtime.registerForm("frmDial", [](Runtime& rt) {
+        auto form = std::make_unique<Form>(rt, "frmDial");
+        static const ControlSpec kLayout[] = {{ControlKind::PictureBox, "Surface", -1, 150, 150, 1500, 1500}};
+        form->add(kLayout);
+        Control& surface = form->c("Surface");
+        surface.setBackColor(0);
+        surface.drawPie(750, 750, 600, -90, 0, 0x00FF00, 0x00FF00);
+        return form;
+    });
+    runtime.show("frmDial");
+    SnapshotTaker taker;
+    Renderer renderer([](const InputEvent&) {});
+    renderer.apply(taker.take(runtime));
+    QWidget* window = renderer.visibleWindows().at("frmDial");
+    const QImage image = window->grab().toImage();
+    // The surface's centre lies at 10 + 50 pixels; look 20 pixels out.
+    auto green = [&](int dx, int dy) { return image.pixelColor(60 + dx, 60 + dy).green() > 200; };
+    EXPECT_TRUE(green(20, -20)) << "top right";
+    EXPECT_FALSE(green(-20, -20)) << "top left";
+    EXPECT_FALSE(green(20, 20)) << "bottom right";
+    EXPECT_FALSE(green(-20, 20)) << "bottom left";
+}
+
 // ---- the platform between the threads -------------------------------------------
 
 TEST(QtPlatform, WaitTimesOutWithoutInputAndServesInputInOrder) {
