@@ -2,6 +2,7 @@
 
 #include "suite/cards.h"
 #include "suite/common.h"
+#include "suite/gamewindow.h"
 #include "suite/suite.h"
 #include "window/runtime.h"
 
@@ -64,8 +65,7 @@ frmSelect::frmSelect(Runtime& runtime) : Form(runtime, "frmSelect") {
 }
 
 void frmSelect::Form_Load() {
-    Platform& platform = runtime().platform();
-    move((platform.screenWidth() - width()) / 2, (platform.screenHeight() - height()) / 2);
+    CentreOnScreen(*this);
     setCaption("Quillmark's Card Haven");
     c("frmGameChoice").setCaption("Select your game");
     c("cmdSumfall").setCaption("&Sumfall!");

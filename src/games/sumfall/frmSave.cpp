@@ -4,6 +4,7 @@
 #include "games/sumfall/modSumfall.h"
 #include "suite/common.h"
 #include "suite/files.h"
+#include "suite/gamewindow.h"
 #include "window/runtime.h"
 
 namespace ch {
@@ -46,11 +47,6 @@ void BindBrowser(Dialog& dialog, sumfall::SavedGameBrowser& browser, std::functi
         if (e.key == 13) browser.setPattern(dialog, dialog.c("txtGameName").text());
     });
 }
-
-void Centre(Form& form) {
-    Platform& platform = form.runtime().platform();
-    form.move((platform.screenWidth() - form.width()) / 2, (platform.screenHeight() - form.height()) / 2);
-}
 }  // namespace
 
 frmSave::frmSave(Runtime& runtime) : Form(runtime, "frmSave") {
@@ -64,7 +60,7 @@ frmSave::frmSave(Runtime& runtime) : Form(runtime, "frmSave") {
 }
 
 void frmSave::Form_Load() {
-    Centre(*this);
+    CentreOnScreen(*this);
     setCaption("Save Last Game");
     c("lblSaveInfo").setCaption(std::string("Use this dialog to save the last game played. ") +
                                 "You may load a saved game later to replay it. This cannot be used to save a game "
@@ -109,7 +105,7 @@ frmOpen::frmOpen(Runtime& runtime) : Form(runtime, "frmOpen") {
 }
 
 void frmOpen::Form_Load() {
-    Centre(*this);
+    CentreOnScreen(*this);
     setCaption("Open Saved Game");
     c("lblOpenInfo").setCaption(std::string("Use this dialog to open a previously saved game. If you want to use ") +
                                 "customized scoring you must set that option before opening a saved game.");

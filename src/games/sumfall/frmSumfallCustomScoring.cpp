@@ -5,6 +5,7 @@
 #include "games/sumfall/frmSumfall.h"
 #include "games/sumfall/modSumfall.h"
 #include "suite/common.h"
+#include "suite/gamewindow.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -43,8 +44,7 @@ frmSumfallCustomScoring::frmSumfallCustomScoring(Runtime& runtime) : Form(runtim
 frmSumfall& frmSumfallCustomScoring::game() const { return runtime().form<frmSumfall>("frmSumfall"); }
 
 void frmSumfallCustomScoring::Form_Load() {
-    Platform& platform = runtime().platform();
-    move((platform.screenWidth() - width()) / 2, (platform.screenHeight() - height()) / 2);
+    CentreOnScreen(*this);
     setCaption(AppTitle + " User Options");
     c("Frame1").setCaption("Apptitle Scoring Options");
     c("lblCustom").setCaption(
