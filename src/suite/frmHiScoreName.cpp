@@ -1,5 +1,6 @@
 #include "suite/frmHiScoreName.h"
 
+#include "suite/gamewindow.h"
 #include "suite/common.h"
 #include "window/runtime.h"
 
@@ -24,8 +25,7 @@ frmHiScoreName::frmHiScoreName(Runtime& runtime) : Form(runtime, "frmHiScoreName
 }
 
 void frmHiScoreName::Form_Load() {
-    Platform& platform = runtime().platform();
-    move((platform.screenWidth() - width()) / 2, (platform.screenHeight() - height()) / 2);
+    CentreOnScreen(*this);
     setCaption(AppTitle);
     c("lblInfo").setCaption("Great score! Please enter your name so we can induct you into the " + AppTitle +
                             " Hall of Fame:");

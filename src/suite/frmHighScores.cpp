@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "suite/gamewindow.h"
 #include "suite/common.h"
 #include "suite/files.h"
 #include "suite/highscores.h"
@@ -45,8 +46,7 @@ frmHighScores::frmHighScores(Runtime& runtime) : Form(runtime, "frmHighScores") 
 }
 
 void frmHighScores::Form_Load() {
-    Platform& platform = runtime().platform();
-    move((platform.screenWidth() - width()) / 2, (platform.screenHeight() - height()) / 2);
+    CentreOnScreen(*this);
     setCaption(AppTitle + " Hall of Fame (" + NumText(TimeLimit) + " secs)");
     ReadTableOfTitle();
     Control& info = c("lblHiScoreInfo");

@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include "suite/gamewindow.h"
 #include "suite/common.h"
 #include "window/runtime.h"
 
@@ -45,8 +46,7 @@ frmRules::frmRules(Runtime& runtime) : Form(runtime, "frmRules") {
 }
 
 void frmRules::Form_Load() {
-    Platform& platform = runtime().platform();
-    move((platform.screenWidth() - width()) / 2, (platform.screenHeight() - height()) / 2);
+    CentreOnScreen(*this);
     setCaption(AppTitle + " Rules, Notes and Strategy");
     Control& ok = c("cmdOK");
     ok.setLeft((width() - ok.width()) / 2);
