@@ -451,7 +451,7 @@ void frmSumfall::PlaceBoard() {
 // ---- Play, pause, end --------------------------------------------------------------
 
 void frmSumfall::cmdPlay_Click(bool fromMenu) {
-    if (c("cmdPlay").caption() == kPlayCaption && (!fromMenu || c("mnuPlay").caption() == kPlayCaption)) {
+    if (c(fromMenu ? "mnuPlay" : "cmdPlay").caption() == kPlayCaption) {
         SetPlayCaptions(*this, true);
         if (fromMenu) {
             c("frmSplash").setVisible(false);
