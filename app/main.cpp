@@ -90,10 +90,17 @@ std::string ProgramFolder() {
     return ec ? std::string(".") : exe.parent_path().string();
 }
 
-// The program's folder when it is writable (a build tree, a portable copy),
-// else the user's data folder.
+// An installed program keeps its data in ../share/cardhaven, a build tree or a
+// portable copy beside itself.
+bool Installed(const std::string& programFolder) {
+    return !std::filesystem::exists(programFolder + "/data/Chord.wav") &&
+           std::filesystem::exists(programFolder + "/../share/cardhaven/Chord.wav");
+}
+
+// The program's folder when it is writable and not an installed one (a build
+// tree, a portable copy), else the user's data folder.
 std::string DefaultHome(const std::string& programFolder) {
-    if (access(programFolder.c_str(), W_OK) == 0) return programFolder;
+    if (!Installed(programFolder) && access(programFolder.c_str(), W_OK) == 0) return programFolder;
     const char* xdg = std::getenv("XDG_DATA_HOME");
     const char* home = std::getenv("HOME");
     std::string base = xdg && *xdg ? xdg : std::string(home ? home : ".") + "/.local/share";
