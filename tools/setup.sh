@@ -5,7 +5,7 @@ set -euo pipefail
 
 CARDHAVEN_PACKAGES=(cmake ninja-build g++ libgtest-dev pkg-config
     qt6-base-dev qt6-base-dev-tools qt6-multimedia-dev libgl-dev libfluidsynth-dev timgm6mb-soundfont
-    fonts-dejavu-core xvfb xauth imagemagick xdotool)
+    fonts-dejavu-core xvfb xauth imagemagick xdotool pulseaudio)
 
 cardhaven_install() {
     local missing=()
