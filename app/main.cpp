@@ -190,7 +190,12 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(icon);
 
     const std::string programFolder = ProgramFolder();
-    if (options.suite.appPath.empty()) options.suite.appPath = DefaultHome(programFolder);
+    if (options.suite.appPath.empty()) {
+        options.suite.appPath = DefaultHome(programFolder);
+    } else {
+        std::error_code ec;
+        std::filesystem::create_directories(options.suite.appPath, ec);
+    }
     if (options.suite.dataPath.empty()) options.suite.dataPath = DefaultData(programFolder);
 
     int status = 0;

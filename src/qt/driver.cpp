@@ -86,6 +86,28 @@ bool ScriptDriver::execute(const QStringList& words, int& waitMs) {
         waitMs = 1;
         return true;
     }
+    if (cmd == "dump") {
+        const auto windows = renderer_.visibleWindows();
+        auto it = windows.find(arg.toStdString());
+        if (it != windows.end())
+            for (QWidget* w : it->second->findChildren<QWidget*>())
+                std::printf("%s %s %d,%d %dx%d %s \"%s\"\n", w->metaObject()->className(),
+                            qPrintable(w->objectName()), w->x(), w->y(), w->width(), w->height(),
+                            w->isVisible() ? "shown" : "hidden", qPrintable(w->accessibleName()));
+        return true;
+    }
+    if (cmd == "resize") {
+        // As the user drags the window's edge: W by H pixels of client area.
+        const auto windows = renderer_.visibleWindows();
+        auto it = windows.find(arg.toStdString());
+        if (it == windows.end()) {
+            fail("no window " + arg);
+            return true;
+        }
+        it->second->resize(words.value(2).toInt(), words.value(3).toInt());
+        waitMs = 1;
+        return true;
+    }
     if (cmd == "answer") {
         const QString want = arg.toLower();
         for (QWidget* w : QApplication::topLevelWidgets()) {

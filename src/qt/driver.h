@@ -5,6 +5,7 @@
 //   wait MS                  let MS milliseconds pass
 //   click REF, dblclick REF  REF is FORM.CONTROL or FORM.CONTROL(INDEX)
 //   close FORM               the user closes a window
+//   resize FORM W H          the user makes a window W by H pixels
 //   answer yes|no|ok|cancel  presses a button of the open message box
 //   shot NAME                writes NAME-FORM.png of each window shown
 //   wave FILE, music on|off  sound requests, as the games make them

@@ -12,6 +12,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -165,7 +166,10 @@ public:
         setMouseTracking(true);
     }
     QWidget* widget() override { return this; }
-    void show(const ControlSnap&) override { update(); }
+    void show(const ControlSnap& s) override {
+        setAccessibleName(Q(s.text));
+        update();
+    }
 
 protected:
     void paintEvent(QPaintEvent*) override {
@@ -396,21 +400,26 @@ class TextView : public QLineEdit, public View {
 public:
     TextView(FormWindow& owner, const ControlSnap& s, QWidget* parent) : QLineEdit(parent), View(owner, s) {
         connect(this, &QLineEdit::textEdited, this, [this](const QString& t) {
+            if (sent_.empty()) base_ = snap().text;
             sent_.push_back(t.toStdString());
-            if (sent_.size() > 64) sent_.pop_front();
             send(InputKind::SetText, 0, t.toStdString());
         });
         connect(this, &QLineEdit::returnPressed, this, [this] { send(InputKind::Key, 0, {}, 13); });
     }
     QWidget* widget() override { return this; }
+    // What the user typed stays until the logic has seen it: a snapshot taken
+    // before then still holds the text from before the typing.
     void show(const ControlSnap& s) override {
-        // A text the user typed and the logic has not caught up with yet stays.
-        auto it = std::find(sent_.begin(), sent_.end(), s.text);
-        if (it != sent_.end()) {
-            sent_.erase(sent_.begin(), it + 1);
-            if (!sent_.empty()) return;
-        } else {
-            sent_.clear();
+        if (!sent_.empty()) {
+            auto it = std::find(sent_.begin(), sent_.end(), s.text);
+            if (it != sent_.end()) {
+                sent_.erase(sent_.begin(), it + 1);
+                if (!sent_.empty()) return;
+            } else if (s.text == base_) {
+                return;
+            } else {
+                sent_.clear();  // the logic set a text of its own
+            }
         }
         if (text() != Q(s.text)) setText(Q(s.text));
     }
@@ -430,6 +439,25 @@ protected:
 
 private:
     std::deque<std::string> sent_;
+    std::string base_;
+};
+
+// A text box several lines high shows long texts (the rules) wrapped, with a
+// scroll bar; the player reads it but does not type into it.
+class MultiTextView : public QPlainTextEdit, public View {
+public:
+    static constexpr int kMinHeight = 720;  // twips: taller than two lines of text
+
+    MultiTextView(FormWindow& owner, const ControlSnap& s, QWidget* parent) : QPlainTextEdit(parent), View(owner, s) {
+        setReadOnly(true);
+        setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    }
+    QWidget* widget() override { return this; }
+    void show(const ControlSnap& s) override {
+        QString text = Q(s.text);
+        text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+        if (toPlainText() != text) setPlainText(text);
+    }
 };
 
 // Check and option buttons show the model's value; a click only asks.
@@ -590,7 +618,9 @@ View* FormWindow::create(const ControlSnap& s, QWidget* parent) {
         case ControlKind::Shape: return new ShapeView(*this, s, parent);
         case ControlKind::Line: return new LineView(*this, s, parent);
         case ControlKind::Button: return new ButtonView(*this, s, parent);
-        case ControlKind::TextBox: return new TextView(*this, s, parent);
+        case ControlKind::TextBox:
+            if (s.height >= MultiTextView::kMinHeight) return new MultiTextView(*this, s, parent);
+            return new TextView(*this, s, parent);
         case ControlKind::CheckBox: return new ToggleView<QCheckBox>(*this, s, parent);
         case ControlKind::OptionButton: return new ToggleView<QRadioButton>(*this, s, parent);
         case ControlKind::Frame: return new FrameView(*this, s, parent);
@@ -621,6 +651,7 @@ void FormWindow::applyControls(const FormSnap& form) {
             }
             View* view = create(s, parent);
             if (!view) continue;
+            view->widget()->setObjectName(Q(key));
             it = views_.emplace(key, std::unique_ptr<View>(view)).first;
             ordered_.push_back(view);
             if (s.kind == ControlKind::StatusBar) statusBar_ = view;

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QMenuBar>
 #include <QPushButton>
 #include <thread>
@@ -217,6 +219,53 @@ TEST(Renderer, APieFromTwelveToThreeOclockFillsTheTopRightQuarter) {
     EXPECT_FALSE(green(-20, -20)) << "top left";
     EXPECT_FALSE(green(20, 20)) << "bottom right";
     EXPECT_FALSE(green(-20, 20)) << "bottom left";
+}
+
+// A tall text box shows its lines, a short one is a line to type into whose
+// edits go to the logic.
+TEST(Renderer, TextBoxesTallAndShort) {
+    HeadlessPlatform headless;
+    Runtime runtime(headless);
+    runtime.registerForm("frmText", [](Runtime& rt) {
+        auto form = std::make_unique<Form>(rt, "frmText");
+        static const ControlSpec kLayout[] = {
+            {ControlKind::TextBox, "txtRules", -1, 150, 150, 4000, 3000, "First\r\nSecond"},
+            {ControlKind::TextBox, "txtName", -1, 150, 3300, 2000, 300, "Ann"},
+        };
+        form->add(kLayout);
+        return form;
+    });
+    runtime.show("frmText");
+    SnapshotTaker taker;
+    std::vector<InputEvent> sent;
+    Renderer renderer([&sent](const InputEvent& e) { sent.push_back(e); });
+    renderer.apply(taker.take(runtime));
+    QWidget* window = renderer.visibleWindows().at("frmText");
+    auto* rules = window->findChild<QPlainTextEdit*>();
+    ASSERT_NE(rules, nullptr);
+    EXPECT_EQ(rules->toPlainText(), "First\nSecond");
+    auto* name = window->findChild<QLineEdit*>();
+    ASSERT_NE(name, nullptr);
+    EXPECT_EQ(name->text(), "Ann");
+    name->setFocus();
+    name->end(false);
+    name->insert("a");  // as typed: textEdited follows
+    Q_EMIT name->textEdited(name->text());
+    ASSERT_FALSE(sent.empty());
+    EXPECT_EQ(sent.back().kind, InputKind::SetText);
+    EXPECT_EQ(sent.back().text, "Anna");
+    // A snapshot taken before the logic saw the edit does not undo it.
+    Control& model = runtime.loaded("frmText")->c("txtName");
+    model.setToolTipText("Your name");
+    renderer.apply(taker.take(runtime));
+    EXPECT_EQ(name->text(), "Anna");
+    runtime.dispatch(sent.back());
+    renderer.apply(taker.take(runtime));
+    EXPECT_EQ(name->text(), "Anna");
+    // Then the logic's own text shows.
+    model.setText("Bob");
+    renderer.apply(taker.take(runtime));
+    EXPECT_EQ(name->text(), "Bob");
 }
 
 // ---- the platform between the threads -------------------------------------------
