@@ -86,6 +86,24 @@ bool ScriptDriver::execute(const QStringList& words, int& waitMs) {
         waitMs = 1;
         return true;
     }
+    if (cmd == "windows") {
+        std::string line = "windows";
+        for (const auto& [form, window] : renderer_.visibleWindows()) line += ' ' + form;
+        std::printf("%s\n", line.c_str());
+        std::fflush(stdout);
+        return true;
+    }
+    if (cmd == "size") {
+        const auto windows = renderer_.visibleWindows();
+        auto it = windows.find(arg.toStdString());
+        if (it == windows.end()) {
+            fail("no window " + arg);
+            return true;
+        }
+        std::printf("size %s %d %d\n", qPrintable(arg), it->second->width(), it->second->height());
+        std::fflush(stdout);
+        return true;
+    }
     if (cmd == "dump") {
         const auto windows = renderer_.visibleWindows();
         auto it = windows.find(arg.toStdString());

@@ -8,6 +8,9 @@
 //   resize FORM W H          the user makes a window W by H pixels
 //   answer yes|no|ok|cancel  presses a button of the open message box
 //   shot NAME                writes NAME-FORM.png of each window shown
+//   windows                  prints "windows" and the forms shown, by name
+//   size FORM                prints "size FORM W H", the window's size in pixels
+//   dump FORM                prints the window's widgets, their places and texts
 //   wave FILE, music on|off  sound requests, as the games make them
 //   memory                   prints "peak_kb N", the peak resident memory
 //   cpu start|stop           "cpu stop" prints "cpu_ms N", processor time since start
