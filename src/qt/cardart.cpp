@@ -617,17 +617,18 @@ QPixmap AppIconPixmap(int size, qreal ratio) {
     {
         QPainter p(&image);
         p.setRenderHint(QPainter::Antialiasing);
-        const qreal h = size * 0.78, w = h * 69.0 / 94.0;
-        p.save();
-        p.translate(size * 0.36, size * 0.14);
-        p.rotate(-14);
-        PaintCard(p, 8, w, h);  // a back of the third design
-        p.restore();
-        p.save();
-        p.translate(size * 0.3, size * 0.16);
-        p.rotate(10);
-        PaintCard(p, ImageCatalogue::kFirstFace, w, h);  // the ace of spades
-        p.restore();
+        const qreal h = size * 0.72, w = h * 69.0 / 94.0;
+        // Each card turned about its own centre, the pair centred in the box.
+        auto card = [&](int index, qreal dx, qreal angle) {
+            p.save();
+            p.translate(size / 2.0 + dx * size, size / 2.0);
+            p.rotate(angle);
+            p.translate(-w / 2, -h / 2);
+            PaintCard(p, index, w, h);
+            p.restore();
+        };
+        card(8, 0.1, 12);                           // a back of the third design
+        card(ImageCatalogue::kFirstFace, -0.08, -8);  // the ace of spades
     }
     QPixmap pixmap = QPixmap::fromImage(std::move(image));
     pixmap.setDevicePixelRatio(ratio);
