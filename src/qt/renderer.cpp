@@ -190,7 +190,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* e) override {
         if (e->button() != Qt::LeftButton) return;
         afterDouble_ = true;
-        send(InputKind::DblClick);
+        send(InputKind::DblClick, 1);  // the first click went out on its release
     }
     void mouseMoveEvent(QMouseEvent*) override {
         const qint64 now = QDateTime::currentMSecsSinceEpoch();
@@ -499,7 +499,8 @@ public:
     ListView(FormWindow& owner, const ControlSnap& s, QWidget* parent) : QListWidget(parent), View(owner, s) {
         connect(this, &QListWidget::itemClicked, this,
                 [this](QListWidgetItem* item) { send(InputKind::ListSelect, row(item)); });
-        connect(this, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem*) { send(InputKind::DblClick); });
+        connect(this, &QListWidget::itemDoubleClicked, this,
+                [this](QListWidgetItem*) { send(InputKind::DblClick, 1); });
     }
     QWidget* widget() override { return this; }
     void show(const ControlSnap& s) override {

@@ -45,7 +45,7 @@ struct InputEvent {
     int index = -1;       // index in a control array, -1 for a single control
     std::string text;
     int key = 0;
-    int value = 0;
+    int value = 0;  // DblClick: 1 when its first click was already sent as a Click
     int width = 0;
     int height = 0;
     MsgAnswer answer = MsgAnswer::OK;

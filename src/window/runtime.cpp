@@ -302,7 +302,9 @@ void Runtime::dispatchToControl(Form& form, Control& control, const InputEvent& 
                 form.raise(&control, Ev::Click);
             break;
         case InputKind::DblClick:
-            form.raise(&control, Ev::Click);
+            // A double click whose first click came as a Click of its own
+            // (value 1, from a real mouse) raises only what the second adds.
+            if (event.value == 0) form.raise(&control, Ev::Click);
             if (form.loaded() && accepts(form, &control)) {
                 if (control.kind() == ControlKind::Button)
                     form.raise(&control, Ev::Click);

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QMouseEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -266,6 +267,44 @@ TEST(Renderer, TextBoxesTallAndShort) {
     model.setText("Bob");
     renderer.apply(taker.take(runtime));
     EXPECT_EQ(name->text(), "Bob");
+}
+
+// A mouse double click on a card: its first click goes out at once, and the
+// double click then tells the logic that the first half was sent already.
+TEST(Renderer, ADoubleClickOnACardSendsAClickThenItsSecondHalf) {
+    HeadlessPlatform headless;
+    Runtime runtime(headless);
+    runtime.registerForm("frmCard", [](Runtime& rt) {
+        auto form = std::make_unique<Form>(rt, "frmCard");
+        static const ControlSpec kLayout[] = {{ControlKind::Image, "Card", 3, 150, 150, 1065, 1455}};
+        form->add(kLayout);
+        form->c("Card", 3).setPicture(14);
+        return form;
+    });
+    runtime.show("frmCard");
+    SnapshotTaker taker;
+    std::vector<InputEvent> sent;
+    Renderer renderer([&sent](const InputEvent& e) { sent.push_back(e); });
+    renderer.apply(taker.take(runtime));
+    QWidget* card = renderer.visibleWindows().at("frmCard")->findChild<QWidget*>("Card(3)");
+    ASSERT_NE(card, nullptr);
+    const QPointF at(10, 10);
+    auto mouse = [&](QEvent::Type type) {
+        QMouseEvent e(type, at, card->mapToGlobal(at), Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(card, &e);
+    };
+    mouse(QEvent::MouseButtonPress);
+    mouse(QEvent::MouseButtonRelease);
+    mouse(QEvent::MouseButtonDblClick);
+    mouse(QEvent::MouseButtonRelease);
+    std::vector<std::pair<InputKind, int>> got;
+    for (const InputEvent& e : sent)
+        if (e.kind != InputKind::MouseMove) got.emplace_back(e.kind, e.value);
+    EXPECT_EQ(got, (std::vector<std::pair<InputKind, int>>{{InputKind::Click, 0}, {InputKind::DblClick, 1}}));
+    ASSERT_FALSE(sent.empty());
+    EXPECT_EQ(sent.back().control, "Card");
+    EXPECT_EQ(sent.back().index, 3);
 }
 
 // ---- the platform between the threads -------------------------------------------
