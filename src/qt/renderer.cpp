@@ -212,7 +212,7 @@ public:
 protected:
     void paint(QPainter& p) override {
         const ControlSnap& s = snap();
-        p.fillRect(rect(), Rgb(s.backColor));
+        if (s.backStyle != 0) p.fillRect(rect(), Rgb(s.backColor));
         QRect box = rect();
         if (s.borderStyle == 1) {
             Bevel(p, rect(), true);

@@ -22,6 +22,7 @@ ControlSnap Copy(const Control& c, int order) {
     s.borderColor = c.borderColor();
     s.borderStyle = c.borderStyle();
     s.fillColor = c.fillColor();
+    s.backStyle = c.backStyle();
     s.picture = c.picture();
     s.left = c.left();
     s.top = c.top();

@@ -26,7 +26,7 @@ struct ControlSnap {
     std::string text;
     bool visible = true;
     bool enabled = true;
-    int foreColor = 0, backColor = 0, borderColor = 0, borderStyle = 0, fillColor = 0;
+    int foreColor = 0, backColor = 0, borderColor = 0, borderStyle = 0, fillColor = 0, backStyle = 1;
     int picture = 0;
     int left = 0, top = 0, width = 0, height = 0;
     std::string toolTip;

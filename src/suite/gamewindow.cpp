@@ -124,6 +124,7 @@ void PrepareStandingControls(Form& window) {
             label->setFont("Arial", 24, true);
             label->setAlignment(2);
             label->setForeColor(255);
+            label->setBackStyle(0);
             label->setVisible(false);
         }
     }

@@ -76,6 +76,9 @@ public:
     void setBorderStyle(int v);
     int fillColor() const { return fillColor_; }
     void setFillColor(int v);
+    // 1 paints the background colour, 0 lets what lies behind show through.
+    int backStyle() const { return backStyle_; }
+    void setBackStyle(int v);
 
     // Catalogue index of the picture shown, 0 for none.
     int picture() const { return picture_; }
@@ -171,6 +174,7 @@ private:
     int borderColor_ = 0;
     int borderStyle_ = 0;
     int fillColor_ = 0;
+    int backStyle_ = 1;
     int picture_ = 0;
     int left_, top_, width_, height_;
     std::string toolTip_;

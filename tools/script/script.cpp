@@ -174,6 +174,7 @@ std::string ControlProperty(const Control& c, const std::string& p, const std::f
     if (p == "BorderColor") return std::to_string(c.borderColor());
     if (p == "BorderStyle") return std::to_string(c.borderStyle());
     if (p == "FillColor") return std::to_string(c.fillColor());
+    if (p == "BackStyle") return std::to_string(c.backStyle());
     if (p == "Picture") return picture(c.picture());
     if (p == "Left") return std::to_string(c.left());
     if (p == "Top") return std::to_string(c.top());

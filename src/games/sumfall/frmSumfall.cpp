@@ -234,6 +234,8 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
         c(name).setForeColor(0xFF0000);
     }
     CardTotalVisible(false);
+    // The messages stand over the field.
+    c("lblMessage").zOrderFront();
     SelectionColor(kDefaultSelectionColour);
     PlaceBoard();
 
