@@ -141,6 +141,9 @@ int PictureOf(const std::string& code) {
     return index;
 }
 
+// The command line names a saved game for the first opening of the window only.
+bool g_commandLineTaken = false;
+
 std::string Tail(const std::string& s) { return s.empty() ? s : s.substr(1); }
 
 std::string SumfallRules() {
@@ -388,10 +391,10 @@ void frmSumfall::Form_Load() {
 }
 
 // A saved game named on the command line is opened the first time the window
-// comes up.
+// comes up in a run.
 void frmSumfall::Form_Activate() {
-    if (CommandLine.empty() || CommandLineTaken) return;
-    CommandLineTaken = true;
+    if (CommandLine.empty() || g_commandLineTaken) return;
+    g_commandLineTaken = true;
     LoadSavedGame(CommandLine);
 }
 

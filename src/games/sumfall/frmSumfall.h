@@ -103,7 +103,6 @@ private:
     bool ReplayPending = false;
     // Sumfall counts its scores visibly by a switch of its own, not the shared one.
     bool CountDownScore = true;
-    bool CommandLineTaken = false;
     SplashAnimation Splash;
 };
 
