@@ -726,9 +726,9 @@ void frmSumfall::TakeScore() {
                    MsgButtons::OK, MsgIcon::Critical, AppTitle);
         if (!loaded()) return;
 
+        // The caption's Change places the label again, over the field.
         message.setTop(height() / 2);
         message.setCaption(kGameOver);
-        message.setTop(height() / 2);
         message.setForeColor(255);
         setMousePointer(11);
         message.setVisible(true);
