@@ -72,7 +72,8 @@ void frmHighScores::ReadHighScoreTable(const std::string& tableName) {
     for (size_t i = 0; i < entries.size() && i < 10; ++i) {
         const int k = static_cast<int>(i) * 2;
         c("ScoreList", k).setCaption(entries[i].name);
-        c("ScoreList", k + 1).setCaption(FormatScore(static_cast<long long>(Val(entries[i].score))));
+        long long score = 0;
+        c("ScoreList", k + 1).setCaption(ScoreValue(entries[i].score, score) ? FormatScore(score) : entries[i].score);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "suite/highscores.h"
 
+#include <cstdint>
+
 #include "suite/common.h"
 #include "suite/files.h"
 #include "suite/sound.h"
@@ -70,6 +72,13 @@ std::vector<ScoreEntry> ParseHighScoreText(const std::string& text) {
     return entries;
 }
 
+bool ScoreValue(const std::string& text, long long& value) {
+    const double v = Val(text);
+    if (v < INT32_MIN || v > INT32_MAX) return false;
+    value = static_cast<long long>(v);
+    return true;
+}
+
 std::string DefaultHighScoreText(const std::string& defaultScore) {
     std::string text;
     for (int i = 0; i < 10; ++i) text += Line("Quillmark", defaultScore);
@@ -88,9 +97,10 @@ bool ShowHighScore(const std::string& tableName, Form& window, const std::string
         if (!ReadWholeFile(HighScoreFileName(tableName), text)) return false;
     }
     const std::vector<ScoreEntry> entries = ParseHighScoreText(text);
-    const std::string score = entries.empty() ? "0" : entries.front().score;
+    long long score = 0;
+    if (!entries.empty() && !ScoreValue(entries.front().score, score)) return false;
     const std::string prefix = window.name() == "frmSpirehold" ? "Current High Score: " : "High Score: ";
-    if (Control* label = window.find("lblHighScore")) label->setCaption(prefix + FormatScore(static_cast<long long>(Val(score))));
+    if (Control* label = window.find("lblHighScore")) label->setCaption(prefix + FormatScore(score));
     return true;
 }
 

@@ -44,6 +44,9 @@ struct ScoreEntry {
 // trimmed. Blank lines carry no entry; a line without a comma is a name with
 // an empty score. Never fails.
 std::vector<ScoreEntry> ParseHighScoreText(const std::string& text);
+// A table's score text as a number; false when it lies outside the 32-bit
+// range of a score (a damaged table).
+bool ScoreValue(const std::string& text, long long& value);
 // The text of a new table: ten lines "Quillmark, " + default score.
 std::string DefaultHighScoreText(const std::string& defaultScore);
 

@@ -2,6 +2,7 @@
 
 #include "suite/common.h"
 #include "suite/files.h"
+#include "window/basic.h"
 
 namespace ch {
 
@@ -34,7 +35,12 @@ void ApplySettingsText(const std::string& text, const SettingsLayout& layout) {
             }
         if (!known || i + 1 >= lines.size()) continue;
         i += 1;
-        known->apply(lines[i]);
+        // A value out of its range ("Overflow") changes nothing, like one
+        // that matches no entry.
+        try {
+            known->apply(lines[i]);
+        } catch (const RuntimeError&) {
+        }
     }
 }
 

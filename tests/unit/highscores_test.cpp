@@ -122,6 +122,18 @@ TEST_F(HighScoreFiles, ShortEmptyAndDamagedTablesShowWithoutLoss) {
     }
 }
 
+TEST_F(HighScoreFiles, AScoreBeyondAnyScoreIsADamagedTable) {
+    Window window(runtime, "frmDuopick");
+    const std::string damaged = "Bob, 99999999999999999999999\r\n";
+    WriteFileAtomic(AppFile("\\DuopickHighScores60.Txt"), damaged);
+    EXPECT_FALSE(ShowHighScore("DuopickHighScores", window, "30000"));
+    EXPECT_EQ(Read("\\DuopickHighScores60.Txt"), damaged);
+    long long value = 0;
+    EXPECT_TRUE(ScoreValue("-2147483648", value));
+    EXPECT_EQ(value, -2147483648LL);
+    EXPECT_FALSE(ScoreValue("2147483648", value));
+}
+
 TEST_F(HighScoreFiles, UpdateWithoutAPlaceKeepsTenLinesAndDropsAnEleventh) {
     Window window(runtime, "frmDuopick");
     std::string eleven;

@@ -8,6 +8,7 @@
 #include "suite/common.h"
 #include "suite/files.h"
 #include "suite/settings.h"
+#include "window/basic.h"
 #include "window/runtime.h"
 #include "window/headless.h"
 
@@ -55,6 +56,18 @@ TEST(SettingsText, ReaderSkipsUnknownAndDamagedLines) {
     ApplySettingsText("[Bogus]\r\n1\r\n [Time]\r\n2\r\n[time]\r\n3\r\n[Written Only]\r\n4\r\n\x01\xff\r\n", s.layout());
     EXPECT_TRUE(s.applied.empty());
     EXPECT_EQ(s.time, "60");
+}
+
+TEST(SettingsText, AValueOutOfItsRangeChangesNothingAndTheRestStillApplies) {
+    int16_t goal = 11;
+    std::string sounds = "True";
+    SettingsLayout layout = {
+        {"[CardGoal]", [&goal](const std::string& v) { goal = CInt(Val(v)); }, nullptr},
+        {"[Play Sounds]", [&sounds](const std::string& v) { sounds = v; }, nullptr},
+    };
+    ApplySettingsText("[CardGoal]\r\n99999\r\n[Play Sounds]\r\nFalse\r\n", layout);
+    EXPECT_EQ(goal, 11);
+    EXPECT_EQ(sounds, "False");
 }
 
 TEST(SettingsText, ShortAndEmptyFilesApplyWhatTheyHold) {

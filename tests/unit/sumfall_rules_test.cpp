@@ -139,6 +139,8 @@ TEST(SavedGames, DamagedFilesAreRefused) {
     EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\n", back));
     EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\nten\r\n", back));
     EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\n11\r\n[Round 1 Deck]\r\n1S\r\n2S\r\n", back));  // short deck
+    EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\n99999\r\n", back));  // out of range
+    EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\n11\r\n[Score]\r\n9999999999\r\n", back));
     EXPECT_TRUE(ParseSavedGame("[Card Goal]\r\n11\r\n", back));
     EXPECT_FALSE(back.timeLimitRead);
 }

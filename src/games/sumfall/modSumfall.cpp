@@ -173,7 +173,8 @@ bool ReadNumber(FieldReader& in, double& value) {
 }
 }  // namespace
 
-bool ParseSavedGame(const std::string& text, SavedGame& game) {
+namespace {
+bool ReadSavedGame(const std::string& text, SavedGame& game) {
     FieldReader in(text);
     std::string field;
     if (!in.next(field) || field != "[Card Goal]") return false;
@@ -215,6 +216,16 @@ bool ParseSavedGame(const std::string& text, SavedGame& game) {
             if (!readDeck(game.round3)) return false;
         }
         if (!in.next(field)) return true;
+    }
+}
+
+}  // namespace
+
+bool ParseSavedGame(const std::string& text, SavedGame& game) {
+    try {
+        return ReadSavedGame(text, game);
+    } catch (const RuntimeError&) {
+        return false;  // a number out of its range
     }
 }
 
