@@ -132,6 +132,7 @@ private:
     Renderer* renderer_;
     std::string name_;
     uint64_t instance_;
+    uint64_t focusSerial_ = 0;
     QMenuBar* menuBar_ = nullptr;
     QWidget* client_;
     std::map<std::string, std::unique_ptr<View>> views_;
@@ -422,6 +423,10 @@ public:
             }
         }
         if (text() != Q(s.text)) setText(Q(s.text));
+        if (s.selectionSerial != selectionSerial_) {
+            selectionSerial_ = s.selectionSerial;
+            setSelection(s.selStart, s.selLength);
+        }
     }
 
 protected:
@@ -436,10 +441,15 @@ protected:
         QLineEdit::focusInEvent(e);
         send(InputKind::Focus);
     }
+    void mousePressEvent(QMouseEvent* e) override {
+        QLineEdit::mousePressEvent(e);
+        if (e->button() == Qt::LeftButton) send(InputKind::Click);
+    }
 
 private:
     std::deque<std::string> sent_;
     std::string base_;
+    uint64_t selectionSerial_ = 0;
 };
 
 // A text box several lines high shows long texts (the rules) wrapped, with a
@@ -589,6 +599,11 @@ void FormWindow::apply(const FormSnap& form) {
         move(Px(form.left), Px(form.top));
     }
     applyControls(form);
+    if (form.focusSerial != focusSerial_) {
+        focusSerial_ = form.focusSerial;
+        auto focused = views_.find(form.focus);
+        if (focused != views_.end() && !focused->second->widget()->hasFocus()) focused->second->widget()->setFocus();
+    }
 
     if (form.visible) {
         if (form.modal != modal_ && isVisible()) hide();

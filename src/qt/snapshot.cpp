@@ -23,6 +23,9 @@ ControlSnap Copy(const Control& c, int order) {
     s.borderStyle = c.borderStyle();
     s.fillColor = c.fillColor();
     s.backStyle = c.backStyle();
+    s.selStart = c.selStart();
+    s.selLength = c.selLength();
+    s.selectionSerial = c.selectionSerial();
     s.picture = c.picture();
     s.left = c.left();
     s.top = c.top();
@@ -70,6 +73,8 @@ std::shared_ptr<const Snapshot> SnapshotTaker::take(const Runtime& runtime) {
         f.visible = form->visible();
         f.enabled = form->enabled();
         f.modal = form->modal();
+        if (const Control* focus = form->focusControl()) f.focus = focus->displayName();
+        f.focusSerial = form->focusSerial();
         int order = 0;
         for (const auto& control : form->controls()) {
             if (control->kind() == ControlKind::Timer) continue;

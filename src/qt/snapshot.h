@@ -42,6 +42,8 @@ struct ControlSnap {
     std::array<std::string, 3> panels;
     std::vector<DrawItem> drawing;
     std::vector<std::string> items;
+    int selStart = 0, selLength = 0;
+    uint64_t selectionSerial = 0;
 
     std::string key() const { return index < 0 ? name : name + "(" + std::to_string(index) + ")"; }
 };
@@ -55,6 +57,8 @@ struct FormSnap {
     int mousePointer = 0, mouseIcon = 0;
     int backColor = 0xC0C0C0;
     bool visible = false, enabled = true, modal = false;
+    std::string focus;  // key of the control the logic gave the focus
+    uint64_t focusSerial = 0;
     std::vector<ControlSnap> controls;
 };
 

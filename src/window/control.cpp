@@ -1,5 +1,6 @@
 #include "window/control.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "window/form.h"
@@ -246,6 +247,14 @@ std::string Control::drawingText() const {
         }
     }
     return out;
+}
+
+void Control::setSelection(int start, int length) {
+    const int size = static_cast<int>(text_.size());
+    selStart_ = std::clamp(start, 0, size);
+    selLength_ = std::clamp(length, 0, size - selStart_);
+    ++selectionSerial_;
+    touch();
 }
 
 void Control::setItems(std::vector<std::string> items) {

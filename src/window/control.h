@@ -144,6 +144,14 @@ public:
     void drawCircle(double cx, double cy, double radius, int color);
     std::string drawingText() const;  // "pie -90 0 65280;line;line;circle"
 
+    // The selected part of a text box's text. Every call counts, so that
+    // selecting the same text again after the player moved the cursor shows.
+    int selStart() const { return selStart_; }
+    int selLength() const { return selLength_; }
+    uint64_t selectionSerial() const { return selectionSerial_; }
+    void setSelection(int start, int length);
+    void selectAll() { setSelection(0, static_cast<int>(text_.size())); }
+
     // Lists (list box, file, folder and drive lists): items and the chosen one.
     const std::vector<std::string>& items() const { return items_; }
     void setItems(std::vector<std::string> items);
@@ -194,6 +202,9 @@ private:
     std::array<std::string, 3> panels_;
     std::vector<DrawItem> drawing_;
     std::vector<std::string> items_;
+    int selStart_ = 0;
+    int selLength_ = 0;
+    uint64_t selectionSerial_ = 0;
     int64_t dueAt_ = 0;
     uint64_t revision_ = 0;
 };

@@ -110,6 +110,7 @@ void Form::setEnabled(bool v) {
 
 void Form::setFocus(Control& control) {
     focus_ = &control;
+    ++focusSerial_;
     touch();
     raise(&control, Ev::GotFocus);
 }

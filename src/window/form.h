@@ -84,6 +84,8 @@ public:
     // The control with the keyboard focus; SetFocus raises its GotFocus.
     Control* focusControl() const { return focus_; }
     void setFocus(Control& control);
+    // Counts every setFocus, so the renderer moves the focus when the logic does.
+    uint64_t focusSerial() const { return focusSerial_; }
     bool modal() const { return modal_; }
 
     // Variables of the form and its game module that the driver may read.
@@ -119,6 +121,7 @@ private:
     bool modal_ = false;
     bool shownOnce_ = false;
     Control* focus_ = nullptr;
+    uint64_t focusSerial_ = 0;
     int maxZ_ = 0, minZ_ = 0;
 };
 

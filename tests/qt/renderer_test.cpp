@@ -267,6 +267,25 @@ TEST(Renderer, TextBoxesTallAndShort) {
     model.setText("Bob");
     renderer.apply(taker.take(runtime));
     EXPECT_EQ(name->text(), "Bob");
+
+    // A selection the logic makes shows, and shows again after the player
+    // moved the cursor, even when it is the same selection.
+    model.selectAll();
+    renderer.apply(taker.take(runtime));
+    EXPECT_EQ(name->selectedText(), "Bob");
+    name->deselect();
+    model.selectAll();
+    renderer.apply(taker.take(runtime));
+    EXPECT_EQ(name->selectedText(), "Bob");
+    // A click in the box goes to the logic.
+    sent.clear();
+    const QPointF at(5, 5);
+    QMouseEvent press(QEvent::MouseButtonPress, at, name->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(name, &press);
+    ASSERT_FALSE(sent.empty());
+    EXPECT_EQ(sent.back().kind, InputKind::Click);
+    EXPECT_EQ(sent.back().control, "txtName");
 }
 
 // A mouse double click on a card: its first click goes out at once, and the

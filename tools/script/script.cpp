@@ -175,6 +175,8 @@ std::string ControlProperty(const Control& c, const std::string& p, const std::f
     if (p == "BorderStyle") return std::to_string(c.borderStyle());
     if (p == "FillColor") return std::to_string(c.fillColor());
     if (p == "BackStyle") return std::to_string(c.backStyle());
+    if (p == "SelStart") return std::to_string(c.selStart());
+    if (p == "SelLength") return std::to_string(c.selLength());
     if (p == "Picture") return picture(c.picture());
     if (p == "Left") return std::to_string(c.left());
     if (p == "Top") return std::to_string(c.top());

@@ -43,6 +43,7 @@ void BindBrowser(Dialog& dialog, sumfall::SavedGameBrowser& browser, std::functi
         browser.pickFile(dialog, dialog.c("File1").listIndex());
     });
     dialog.on("File1", Ev::DblClick, [ok](EventArgs&) { ok(); });
+    dialog.on("txtGameName", Ev::Click, [&dialog](EventArgs&) { dialog.c("txtGameName").selectAll(); });
     dialog.on("txtGameName", Ev::KeyPress, [&dialog, &browser](EventArgs& e) {
         if (e.key == 13) browser.setPattern(dialog, dialog.c("txtGameName").text());
     });

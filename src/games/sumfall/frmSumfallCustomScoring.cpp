@@ -39,6 +39,7 @@ frmSumfallCustomScoring::frmSumfallCustomScoring(Runtime& runtime) : Form(runtim
     on("cmdDefault", Ev::Click, [this](EventArgs&) { cmdDefault_Click(); });
     on("cmdCancel", Ev::Click, [this](EventArgs&) { cmdCancel_Click(); });
     on("cmdOK", Ev::Click, [this](EventArgs&) { cmdOK_Click(); });
+    for (const char* box : kBoxes) on(box, Ev::GotFocus, [this, box](EventArgs&) { c(box).selectAll(); });
 }
 
 frmSumfall& frmSumfallCustomScoring::game() const { return runtime().form<frmSumfall>("frmSumfall"); }
