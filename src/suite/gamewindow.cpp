@@ -384,6 +384,17 @@ std::string WindowHeightText(const Form& window, int designHeight) {
     return NumText(window.windowState() == 2 ? designHeight : window.height());
 }
 
+SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeight) {
+    Form* w = &window;
+    return {
+        {"[State]", [w](const std::string& v) { ApplyWindowState(*w, v); }, [w] { return WindowStateText(*w); }},
+        {"[Width]", [w](const std::string& v) { ApplyWindowWidth(*w, v); },
+         [w, designWidth] { return WindowWidthText(*w, designWidth); }},
+        {"[Height]", [w](const std::string& v) { ApplyWindowHeight(*w, v); },
+         [w, designHeight] { return WindowHeightText(*w, designHeight); }},
+    };
+}
+
 void FinishGame(Form& window, const std::string& tableName, const std::string& defaultScore,
                 const FinishGameSteps& steps) {
     try {

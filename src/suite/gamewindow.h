@@ -203,6 +203,9 @@ std::string WindowStateText(const Form& window);
 // The size to write: the window's own, or the design size when maximised.
 std::string WindowWidthText(const Form& window, int designWidth);
 std::string WindowHeightText(const Form& window, int designHeight);
+// The three sections of the window's size in their order, "[State]" first so
+// that a maximised window ignores the size read after it.
+SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeight);
 
 // ---- End of a game ------------------------------------------------------------
 struct FinishGameSteps {

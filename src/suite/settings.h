@@ -20,7 +20,8 @@
 //   Form_Load:     ReadSettingsINI("\\X.Ini", SettingsSections());  (after the defaults are set)
 //   closing:       WriteSettingsINI("\\X.Ini", SettingsSections());
 //
-// "[State]" must stand before "[Width]" and "[Height]": the reader applies the
+// "[State]" must stand before "[Width]" and "[Height]" (WindowSizeSections in
+// gamewindow.h gives the three in that order): the reader applies the
 // file line by line, and a size is not applied to a maximised window.
 #pragma once
 

@@ -107,7 +107,7 @@ frmTestGame::frmTestGame(Runtime& runtime) : Form(runtime, "frmTestGame") {
 }
 
 SettingsLayout frmTestGame::SettingsSections() {
-    return {
+    SettingsLayout layout = {
         {"[Play Music]", [this](const std::string& v) { SetPlayMusic(*this, ParseBoolText(v), false); },
          [] { return std::string(BoolText(PlayMusic)); }},
         {"[Time]", [this](const std::string& v) { ApplyTimeSetting(*this, v, kTimeEntries); },
@@ -118,14 +118,11 @@ SettingsLayout frmTestGame::SettingsSections() {
          [] { return std::string(BoolText(CountDownScore)); }},
         {"[Hit Bonus]", [this](const std::string& v) { HitBonus = CLng(Val(v)); }, [this] { return NumText(HitBonus); }},
         {"[Time Bonus]", [](const std::string& v) { TimeBonus = CLng(Val(v)); }, [] { return NumText(TimeBonus); }},
-        {"[State]", [this](const std::string& v) { ApplyWindowState(*this, v); }, [this] { return WindowStateText(*this); }},
-        {"[Width]", [this](const std::string& v) { ApplyWindowWidth(*this, v); },
-         [this] { return WindowWidthText(*this, 9540); }},
-        {"[Height]", [this](const std::string& v) { ApplyWindowHeight(*this, v); },
-         [this] { return WindowHeightText(*this, 7200); }},
-        {"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kDeckMenus); },
-         [] { return NumText(DeckDesign); }},
     };
+    for (SettingsSection& section : WindowSizeSections(*this, 9540, 7200)) layout.push_back(section);
+    layout.push_back({"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kDeckMenus); },
+                      [] { return NumText(DeckDesign); }});
+    return layout;
 }
 
 void frmTestGame::Form_Load() {

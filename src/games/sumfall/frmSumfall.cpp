@@ -317,7 +317,7 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
 // ---- Loading and closing ---------------------------------------------------------
 
 SettingsLayout frmSumfall::SettingsSections() {
-    return {
+    SettingsLayout layout = {
         {"[Color]",
          [this](const std::string& v) {
              for (int i = 0; i < 6; ++i)
@@ -347,15 +347,11 @@ SettingsLayout frmSumfall::SettingsSections() {
              CardGoal = CInt(Val(v));
          },
          [] { return NumText(CardGoal); }},
-        {"[State]", [this](const std::string& v) { ApplyWindowState(*this, v); },
-         [this] { return WindowStateText(*this); }},
-        {"[Width]", [this](const std::string& v) { ApplyWindowWidth(*this, v); },
-         [this] { return WindowWidthText(*this, kDesignWidth); }},
-        {"[Height]", [this](const std::string& v) { ApplyWindowHeight(*this, v); },
-         [this] { return WindowHeightText(*this, kDesignHeight); }},
-        {"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kDeckMenus); },
-         [] { return NumText(DeckDesign); }},
     };
+    for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
+    layout.push_back({"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kDeckMenus); },
+                      [] { return NumText(DeckDesign); }});
+    return layout;
 }
 
 void frmSumfall::Form_Load() {
