@@ -1,10 +1,14 @@
 #include "games/games.h"
 
+#include "games/fivestack/frmFivestack.h"
 #include "games/sumfall/frmSumfall.h"
 #include "window/runtime.h"
 
 namespace ch {
 
-void RegisterGameForms(Runtime& runtime) { RegisterSumfall(runtime); }
+void RegisterGameForms(Runtime& runtime) {
+    RegisterSumfall(runtime);
+    RegisterFivestack(runtime);
+}
 
 }  // namespace ch

@@ -140,10 +140,11 @@ void SetPlayCaptions(Form& window, bool playing, const char* endCaption = kEndGa
 // (shown if GameInProgress), Timer1 off, "&Resume" on cmdPause and mnuPause,
 // cmdExit/cmdQuit, cmdTakeScore, cmdPlay, mnuExit, mnuPlay, mnuTakeScore
 // disabled. The game then hides its cards and stops the music.
-void SetPausedControls(Form& window);
+// A game whose messages stand in another label names it in `messageLabel`.
+void SetPausedControls(Form& window, const char* messageLabel = "lblMessage");
 // The reverse: lblMessage hidden and emptied, Timer1 on, "Pau&se", the
 // controls enabled. The game then shows its cards and restarts the music.
-void SetResumedControls(Form& window);
+void SetResumedControls(Form& window, const char* messageLabel = "lblMessage");
 // A Yes/No question with the question icon and the title AppTitle.
 bool AskYesNo(const std::string& question);
 // The question of closing the window: a game in progress, under five minutes
@@ -158,6 +159,10 @@ void LeaveGameWindow(Form& window, const std::string& settingsFile, const Settin
 // of cmdPause before and resumed by another after, unless it was paused
 // already or is over by then.
 void ShowModalPaused(Form& window, const std::string& formName, const char* messageLabel = "lblMessage");
+
+// A label fits its text and stands in the middle of its box:
+// left = box left + (box width - label width) / 2.
+void CentreLabelIn(Form& window, const char* label, const char* box);
 
 // ---- Menus --------------------------------------------------------------------
 struct TimeEntry {
