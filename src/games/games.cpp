@@ -1,10 +1,14 @@
 #include "games/games.h"
 
+#include "games/spirehold/frmSpirehold.h"
 #include "games/sumfall/frmSumfall.h"
 #include "window/runtime.h"
 
 namespace ch {
 
-void RegisterGameForms(Runtime& runtime) { RegisterSumfall(runtime); }
+void RegisterGameForms(Runtime& runtime) {
+    RegisterSumfall(runtime);
+    RegisterSpirehold(runtime);
+}
 
 }  // namespace ch

@@ -1,5 +1,6 @@
 #include "suite/gamewindow.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "suite/cards.h"
@@ -393,6 +394,21 @@ SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeigh
         {"[Height]", [w](const std::string& v) { ApplyWindowHeight(*w, v); },
          [w, designHeight] { return WindowHeightText(*w, designHeight); }},
     };
+}
+
+void CentreLabelIn(Form& window, const char* label, const char* box) {
+    Control& text = window.c(label);
+    const Control& frame = window.c(box);
+    const int textWidth = window.runtime().platform().textWidth(text.caption(), text.fontSize(), text.fontBold());
+    const int width = std::min(frame.width(), textWidth + 30);
+    text.setWidth(width);
+    text.setLeft(frame.left() + (frame.width() - width) / 2);
+}
+
+void EndOnRunTimeError(const RuntimeError& error) {
+    MsgBox("Run-time error '" + NumText(error.number()) + "':\r\n\r\n" + error.description(), MsgButtons::OK,
+           MsgIcon::Critical, AppTitle);
+    Runtime::current().end();
 }
 
 void FinishGame(Form& window, const std::string& tableName, const std::string& defaultScore,
