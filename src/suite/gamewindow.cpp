@@ -405,10 +405,9 @@ void CentreLabelIn(Form& window, const char* label, const char* box) {
     text.setLeft(frame.left() + (frame.width() - width) / 2);
 }
 
-void EndOnRunTimeError(const RuntimeError& error) {
+void ShowRunTimeError(const RuntimeError& error) {
     MsgBox("Run-time error '" + NumText(error.number()) + "':\r\n\r\n" + error.description(), MsgButtons::OK,
            MsgIcon::Critical, AppTitle);
-    Runtime::current().end();
 }
 
 void FinishGame(Form& window, const std::string& tableName, const std::string& defaultScore,

@@ -214,10 +214,10 @@ SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeigh
 // boxes re-centre their number at each change of its caption.
 void CentreLabelIn(Form& window, const char* label, const char* box);
 // A run-time error no handler of the game takes ("Overflow" of a count-up
-// past its 16-bit range): the platform's message "Run-time error 'n':",
-// two line breaks and the description, with the critical icon and the title
-// AppTitle; then the program ends, as it always has on such an error.
-[[noreturn]] void EndOnRunTimeError(const RuntimeError& error);
+// past its 16-bit range): the platform's message "Run-time error 'n':", two
+// line breaks and the description, with the critical icon and the title
+// AppTitle. The game then ends its game in order; the program goes on.
+void ShowRunTimeError(const RuntimeError& error);
 
 // ---- End of a game ------------------------------------------------------------
 struct FinishGameSteps {

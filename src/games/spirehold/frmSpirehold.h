@@ -19,6 +19,8 @@
 
 namespace ch {
 
+class RuntimeError;
+
 class frmSpirehold : public Form {
 public:
     explicit frmSpirehold(Runtime& runtime);
@@ -59,7 +61,9 @@ private:
     void TowerScore();
     void HighRunScore();
     void GameOver();
+    void EndOnError(const RuntimeError& error);
     bool CheckForLegalMove(int index);
+    void TakeCard(int index);
 
     // What the window shows.
     void ShowCards(bool visible, bool disable = true);

@@ -65,6 +65,14 @@ bool frmSpirehold::CheckForLegalMove(int index) {
 
 void frmSpirehold::UpCardImage_Click(int index) {
     if (TakingScore) return;
+    try {
+        TakeCard(index);
+    } catch (const RuntimeError& error) {
+        EndOnError(error);
+    }
+}
+
+void frmSpirehold::TakeCard(int index) {
     if (!CheckForLegalMove(index)) {
         Wave("\\Chord.wav");
         return;

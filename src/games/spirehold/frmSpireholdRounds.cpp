@@ -134,8 +134,18 @@ void frmSpirehold::cmdTakeScore_Click() {
     try {
         TakeScore();
     } catch (const RuntimeError& error) {
-        EndOnRunTimeError(error);
+        EndOnError(error);
     }
+}
+
+// A run-time error in play or in the end of a round (a count-up past its
+// range) is told, and the game ends there with the score made so far.
+void frmSpirehold::EndOnError(const RuntimeError& error) {
+    ShowRunTimeError(error);
+    if (!loaded()) return;
+    c("lblScoring").setVisible(false);
+    c("lblCurrentScore").setForeColor(kBlue);
+    GameOver();
 }
 
 void frmSpirehold::TakeScore() {
