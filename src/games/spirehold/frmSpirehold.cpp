@@ -279,7 +279,6 @@ void frmSpirehold::Form_Load() {
     TimeBonus = kDefaultTimeBonus;
     c("mnu45").setChecked(true);
     c("mnuSounds").setChecked(true);
-    c("mnuPalm").setChecked(true);
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
     CheckForCustom();
