@@ -1,7 +1,8 @@
 #include "games/games.h"
 
-#include "games/fivestack/frmFivestack.h"
 #include "games/sumfall/frmSumfall.h"
+#include "games/fivestack/frmFivestack.h"
+#include "games/spirehold/frmSpirehold.h"
 #include "window/runtime.h"
 
 namespace ch {
@@ -9,6 +10,7 @@ namespace ch {
 void RegisterGameForms(Runtime& runtime) {
     RegisterSumfall(runtime);
     RegisterFivestack(runtime);
+    RegisterSpirehold(runtime);
 }
 
 }  // namespace ch

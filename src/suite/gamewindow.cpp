@@ -405,6 +405,20 @@ SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeigh
     };
 }
 
+void CentreLabelIn(Form& window, const char* label, const char* box) {
+    Control& text = window.c(label);
+    const Control& frame = window.c(box);
+    const int textWidth = window.runtime().platform().textWidth(text.caption(), text.fontSize(), text.fontBold());
+    const int width = std::min(frame.width(), textWidth + 30);
+    text.setWidth(width);
+    text.setLeft(frame.left() + (frame.width() - width) / 2);
+}
+
+void ShowRunTimeError(const RuntimeError& error) {
+    MsgBox("Run-time error '" + NumText(error.number()) + "':\r\n\r\n" + error.description(), MsgButtons::OK,
+           MsgIcon::Critical, AppTitle);
+}
+
 void FinishGame(Form& window, const std::string& tableName, const std::string& defaultScore,
                 const FinishGameSteps& steps) {
     try {

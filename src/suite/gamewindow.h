@@ -38,6 +38,7 @@
 namespace ch {
 
 class Form;
+class RuntimeError;
 
 // Captions the game logic tests, exactly as they stand.
 inline constexpr const char* kPlayCaption = "&Play";
@@ -211,6 +212,17 @@ std::string WindowHeightText(const Form& window, int designHeight);
 // The three sections of the window's size in their order, "[State]" first so
 // that a maximised window ignores the size read after it.
 SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeight);
+
+// ---- Labels and errors ---------------------------------------------------------
+// A label fits its text (the platform's text width plus 30 twips, no wider
+// than the box) and stands in the middle of its box: the score and round
+// boxes re-centre their number at each change of its caption.
+void CentreLabelIn(Form& window, const char* label, const char* box);
+// A run-time error no handler of the game takes ("Overflow" of a count-up
+// past its 16-bit range): the platform's message "Run-time error 'n':", two
+// line breaks and the description, with the critical icon and the title
+// AppTitle. The game then ends its game in order; the program goes on.
+void ShowRunTimeError(const RuntimeError& error);
 
 // ---- End of a game ------------------------------------------------------------
 struct FinishGameSteps {
