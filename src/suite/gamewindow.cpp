@@ -296,12 +296,16 @@ void LeaveGameWindow(Form& window, const std::string& settingsFile, const Settin
 }
 
 void ShowModalPaused(Form& window, const std::string& formName, const char* messageLabel) {
+    RunPaused(window, [&window, &formName] { window.runtime().show(formName, true); }, messageLabel);
+}
+
+void RunPaused(Form& window, const std::function<void()>& step, const char* messageLabel) {
     Control& pause = window.c("cmdPause");
     Control* message = window.find(messageLabel);
     const auto reads = [message](const char* text) { return message && message->caption() == text; };
     const bool pausedBefore = reads(kGamePaused);
     if (pause.enabled() && !reads(kGamePaused) && !reads(kGameOver)) window.raise(&pause, Ev::Click);
-    window.runtime().show(formName, true);
+    step();
     if (!window.loaded()) return;
     if (pause.enabled() && !reads(kGameOver) && !pausedBefore) window.raise(&pause, Ev::Click);
 }

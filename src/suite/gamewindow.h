@@ -158,6 +158,10 @@ void LeaveGameWindow(Form& window, const std::string& settingsFile, const Settin
 // of cmdPause before and resumed by another after, unless it was paused
 // already or is over by then.
 void ShowModalPaused(Form& window, const std::string& formName, const char* messageLabel = "lblMessage");
+// The same pause and resume around any step that holds the window, such as
+// a question: a running game is paused by a click of cmdPause before `step`
+// and resumed by another after it, unless it was paused already or is over.
+void RunPaused(Form& window, const std::function<void()>& step, const char* messageLabel = "lblMessage");
 
 // ---- Menus --------------------------------------------------------------------
 struct TimeEntry {
