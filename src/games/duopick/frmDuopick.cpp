@@ -129,27 +129,16 @@ frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
     on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
     on("cmdTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(); });
     on("mnuTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(); });
-    on("cmdExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
-    on("mnuExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
     on("PlayCard", Ev::Click, [this](EventArgs& e) { PlayCard_Click(e.index); });
     on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    on("Timer2", Ev::Timer, [this](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *this); });
-    on("Timer3", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
-    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
+    BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
     for (const TimeEntry& entry : kTimeEntries)
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int design = 1; design <= 4; ++design)
         on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
-    on("mnuSounds", Ev::Click, [this](EventArgs&) { SetPlaySounds(*this, !PlaySounds); });
-    on("mnuMusic", Ev::Click, [this](EventArgs&) {
-        SetPlayMusic(*this, !PlayMusic, GameInProgress && c("cmdPause").caption() == kPauseCaption);
-    });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmDuopickCustomScoring", true); });
-    on("mnuView", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmHighScores"); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
-    on("mnuRules", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmRules"); });
-    on("mnuAbout", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmAbout"); });
 
     expose("PairsBonus", Expose(PairsBonus));
     expose("RunsBonus", Expose(RunsBonus));
@@ -172,64 +161,41 @@ frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
 // ---- Loading and closing ----------------------------------------------------------
 
 SettingsLayout frmDuopick::SettingsSections() {
-    const auto number = [](int32_t& setting) {
-        return SettingsSection{"", [&setting](const std::string& v) { setting = CLng(Val(v)); },
+    // A scoring value; a number out of its range changes nothing.
+    const auto number = [](const char* name, int32_t& setting) {
+        return SettingsSection{name, [&setting](const std::string& v) { setting = CLng(Val(v)); },
                                [&setting] { return NumText(setting); }};
     };
-    const auto named = [](const char* name, SettingsSection section) {
-        section.name = name;
-        return section;
-    };
-    const SettingsSection music = {"[Play Music]",
-                                   [this](const std::string& v) { SetPlayMusic(*this, ParseBoolText(v), false); },
-                                   [] { return std::string(BoolText(PlayMusic)); }};
     SettingsLayout layout = {
-        music,
-        {"[Time]", [this](const std::string& v) { ApplyTimeSetting(*this, v, kTimeEntries); },
-         [] { return NumText(TimeLimit); }},
-        {"[Play Sounds]", [this](const std::string& v) { SetPlaySounds(*this, ParseBoolText(v)); },
-         [] { return std::string(BoolText(PlaySounds)); }},
-        music,
+        PlayMusicSection(*this),
+        TimeSection(*this, kTimeEntries),
+        PlaySoundsSection(*this),
+        PlayMusicSection(*this),
         {"[Count Down Score]", [](const std::string& v) { CountDownScore = ParseBoolText(v); },
          [] { return std::string(BoolText(CountDownScore)); }},
-        named("[Pairs Bonus]", number(PairsBonus)),
-        named("[Runs Bonus]", number(RunsBonus)),
-        named("[Time Bonus]", number(TimeBonus)),
-        named("[Bonus Score]", number(BonusScore)),
-        named("[Completion Bonus]", number(CompletionBonus)),
+        number("[Pairs Bonus]", PairsBonus),
+        number("[Runs Bonus]", RunsBonus),
+        number("[Time Bonus]", TimeBonus),
+        number("[Bonus Score]", BonusScore),
+        number("[Completion Bonus]", CompletionBonus),
     };
     for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
-    layout.push_back({"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kDeckMenus); },
-                      [] { return NumText(DeckDesign); }});
+    layout.push_back(DeckSection(*this, kDeckMenus));
     return layout;
 }
 
 void frmDuopick::Form_Load() {
-    setMousePointer(11);
-    c("Timer4").setEnabled(true);
-    c("Timer1").setEnabled(false);
-    TimeLimit = 45;
-    PlaySounds = true;
-    PlayMusic = false;
-    DeckDesign = 1;
-    CountDownScore = true;
+    BeginFormLoad(*this, 45, "mnu45");
     PairsBonus = kDefaultPairsBonus;
     RunsBonus = kDefaultRunsBonus;
     TimeBonus = kDefaultTimeBonus;
     BonusScore = kDefaultBonusScore;
     CompletionBonus = kDefaultCompletionBonus;
-    c("mnu45").setChecked(true);
-    c("mnuSounds").setChecked(true);
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
     CheckForCustom();
     ShowBonusLabels();
-    GameStartTime = runtime().platform().wallClock();
-    ShowSplashCaptions(*this);
-    CentreOnScreen(*this);
-    InitTimeDial(*this);
-    ShowHighScore(kTable, *this, kMenuScore);
-    setMousePointer(0);
+    CompleteFormLoad(*this, kTable, kMenuScore);
 }
 
 // The clock runs on while the question stands.
@@ -256,12 +222,7 @@ void frmDuopick::ShowBonusLabels() {
 // of the window, the command column at its right edge and the status bar
 // at its bottom.
 void frmDuopick::Form_Resize() {
-    if (windowState() == 1) return;
-    if ((width() < kDesignWidth || height() < kDesignHeight) && windowState() == 0) {
-        setSize(kDesignWidth, kDesignHeight);
-        return;
-    }
-    PlaceBoard();
+    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
 }
 
 void frmDuopick::PlaceBoard() {
