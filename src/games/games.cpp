@@ -3,6 +3,7 @@
 #include "games/sumfall/frmSumfall.h"
 #include "games/fivestack/frmFivestack.h"
 #include "games/spirehold/frmSpirehold.h"
+#include "games/duopick/frmDuopick.h"
 #include "window/runtime.h"
 
 namespace ch {
@@ -11,6 +12,7 @@ void RegisterGameForms(Runtime& runtime) {
     RegisterSumfall(runtime);
     RegisterFivestack(runtime);
     RegisterSpirehold(runtime);
+    RegisterDuopick(runtime);
 }
 
 }  // namespace ch

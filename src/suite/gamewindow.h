@@ -160,6 +160,10 @@ void LeaveGameWindow(Form& window, const std::string& settingsFile, const Settin
 // of cmdPause before and resumed by another after, unless it was paused
 // already or is over by then.
 void ShowModalPaused(Form& window, const std::string& formName, const char* messageLabel = "lblMessage");
+// The same pause and resume around any step that holds the window, such as
+// a question: a running game is paused by a click of cmdPause before `step`
+// and resumed by another after it, unless it was paused already or is over.
+void RunPaused(Form& window, const std::function<void()>& step, const char* messageLabel = "lblMessage");
 
 // A label fits its text and stands in the middle of its box:
 // left = box left + (box width - label width) / 2.
@@ -197,6 +201,29 @@ void SetPlaySounds(Form& window, bool on);
 // PlayMusic and the tick of mnuMusic; during a running game the music starts
 // or stops at once.
 void SetPlayMusic(Form& window, bool on, bool gameRunning);
+
+// ---- Shared steps of a game window ------------------------------------------
+// Form_Load's opening: the hourglass, Timer4 on, Timer1 off, and the shared
+// defaults: `timeLimit` with its entry `timeMenu` ticked, sounds on (ticked),
+// music off, back design 1, count-down on.
+void BeginFormLoad(Form& window, int timeLimit, const char* timeMenu);
+// Form_Load's close: GameStartTime, the splash captions, the window centred,
+// the dial prepared, the table's top score shown, the normal pointer.
+void CompleteFormLoad(Form& window, const std::string& tableName, const std::string& defaultScore);
+// The handlers every game window binds alike: Timer2 the dial's blink,
+// Timer3 the time of day, Timer4 the splash ring; cmdExit and mnuExit close
+// the window; mnuSounds and mnuMusic switch; mnuView (where the window has
+// it), mnuRules and mnuAbout open their windows around a pause.
+void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face);
+// Form_Resize's guard: false for a minimised window, and for one below its
+// smallest size, which is set back to it (a further resize follows); true
+// when the board is to be placed.
+bool ResizeToPlace(Form& window, int smallestWidth, int smallestHeight);
+// The sections every settings file has, applied through the menu handlers.
+SettingsSection PlayMusicSection(Form& window);
+SettingsSection PlaySoundsSection(Form& window);
+SettingsSection TimeSection(Form& window, std::span<const TimeEntry> entries);
+SettingsSection DeckSection(Form& window, const char* const (&menus)[4]);
 
 // ---- Window size in the settings file -------------------------------------
 // "[State]": 0 normal, 1 minimised, 2 maximised; other values change nothing.
