@@ -4,6 +4,7 @@
 #include "games/fivestack/frmFivestack.h"
 #include "games/spirehold/frmSpirehold.h"
 #include "games/duopick/frmDuopick.h"
+#include "games/treyshift/frmTreyshift.h"
 #include "window/runtime.h"
 
 namespace ch {
@@ -13,6 +14,7 @@ void RegisterGameForms(Runtime& runtime) {
     RegisterFivestack(runtime);
     RegisterSpirehold(runtime);
     RegisterDuopick(runtime);
+    RegisterTreyshift(runtime);
 }
 
 }  // namespace ch
