@@ -198,9 +198,9 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
     on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::Sumfall); });
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { lblCurrentScore_Change(); });
     on("lblMessage", Ev::Change, [this](EventArgs&) { lblMessage_Change(); });
-    on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreIn("lblCurrentRound", "RoundRectangle"); });
-    on("lblCurrentElevens", Ev::Change, [this](EventArgs&) { CentreIn("lblCurrentElevens", "ElevensRectangle"); });
-    on("lblCurrentTotal", Ev::Change, [this](EventArgs&) { CentreIn("lblCurrentTotal", "CardTotalRectangle"); });
+    on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
+    on("lblCurrentElevens", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentElevens", "ElevensRectangle"); });
+    on("lblCurrentTotal", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentTotal", "CardTotalRectangle"); });
     for (const TimeEntry& entry : kTimeEntries)
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int goal = 10; goal <= 15; ++goal)
@@ -377,23 +377,14 @@ void frmSumfall::PlaceBoard() {
     c("CardTotalBevelSide").move(x + 1005, pileTop + 375, 0, 450);
     c("CardTotalBevelBottom").move(x + 90, pileTop + 825, 915, 0);
     c("lblCardCount").move(x - 150, std::min(pileTop + 960, clientHeight - 330 - 255 - 50), 1365, 255);
-    CentreIn("lblCurrentTotal", "CardTotalRectangle");
+    CentreLabelIn(*this, "lblCurrentTotal", "CardTotalRectangle");
     lblMessage_Change();
 }
 
 void frmSumfall::ShowScore() { c("lblCurrentScore").setCaption(FormatScore(CurrentScore)); }
 
-// A label fits its text and stands in the middle of its box.
-void frmSumfall::CentreIn(const char* label, const char* rectangle) {
-    Control& text = c(label);
-    const Control& box = c(rectangle);
-    const int width = std::min(box.width(), runtime().platform().textWidth(text.caption(), text.fontSize(), text.fontBold()) + 30);
-    text.setWidth(width);
-    text.setLeft(box.left() + (box.width() - width) / 2);
-}
-
 void frmSumfall::lblCurrentScore_Change() {
-    CentreIn("lblCurrentScore", "ScoreRectangle");
+    CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle");
     c("lblCurrentScore").setForeColor(CurrentScore < 0 ? 255 : 0xFF0000);
 }
 
