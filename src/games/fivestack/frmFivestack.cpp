@@ -35,11 +35,7 @@ const TimeEntry kTimeEntries[] = {
 // Fivestack's own places for the standing controls: the time, score and
 // round boxes stand in the top band beside the deck, the buttons at the
 // right edge above the Card Total.
-struct Place {
-    const char* name;
-    int left, top, width, height;
-};
-const Place kStandingPlaces[] = {
+const ControlPlace kStandingPlaces[] = {
     {"cmdPlay", 8220, 120, 1095, 375},
     {"cmdPause", 8220, 555, 1095, 375},
     {"lblTime", 4680, 60, 1095, 255},
@@ -110,7 +106,7 @@ const std::vector<ControlSpec>& Layout() {
         std::vector<ControlSpec> all;
         for (ControlSpec s : StandingControls()) {
             if (Unused(s.name)) continue;
-            for (const Place& p : kStandingPlaces)
+            for (const ControlPlace& p : kStandingPlaces)
                 if (std::string(s.name) == p.name) {
                     s.left = p.left;
                     s.top = p.top;
@@ -306,13 +302,7 @@ SettingsLayout frmFivestack::SettingsSections() {
 }
 
 void frmFivestack::Form_Load() {
-    setMousePointer(11);
-    c("Timer4").setEnabled(true);
-    c("Timer1").setEnabled(false);
-    PlaySounds = true;
-    PlayMusic = false;
-    DeckDesign = 1;
-    CountDownScore = true;
+    BeginFormLoad(*this, kDefaultTimeLimit);
     GameInProgress = false;
     BonusScore = kDefaultBonusScore;
     TimeBonusMax = kDefaultTimeBonusMax;
@@ -343,24 +333,32 @@ void frmFivestack::Form_QueryUnload(EventArgs& args) {
     const std::string& info = c("ScoringLabelInfo").caption();
     const bool pauseFirst = GameInProgress && c("cmdPause").enabled() && info != kGamePaused && info != kGameOver;
     if (pauseFirst) cmdPause_Click();
-    if (!AskYesNo(CloseQuestion())) {
-        args.cancel = true;
-        if (pauseFirst && loaded()) cmdPause_Click();
-        return;
-    }
-    LeaveGameWindow(*this, kSettingsFile, SettingsSections());
+    ConfirmCloseGameWindow(*this, args, pauseFirst, [this] { cmdPause_Click(); }, kSettingsFile, SettingsSections());
 }
 
 // The cards keep their size: a resize only moves the board to the middle of
 // the window, the command buttons to its right edge, the status bar to its
-// bottom.
+// bottom. A minimised window stops the clock and the music of a running
+// round; restored, they go on unless the game is paused.
 void frmFivestack::Form_Resize() {
-    if (windowState() == 1) return;
-    if ((width() < kDesignWidth || height() < kDesignHeight) && windowState() == 0) {
-        setSize(kDesignWidth, kDesignHeight);
+    const bool running = GameInProgress && !TakingScore && c("cmdPause").caption() == kPauseCaption &&
+                         c("cmdPause").enabled();
+    if (windowState() == 1) {
+        if (running && !Minimised) {
+            Minimised = true;
+            c("Timer1").setEnabled(false);
+            if (PlayMusic) StopMusic();
+        }
         return;
     }
-    PlaceBoard();
+    if (Minimised) {
+        Minimised = false;
+        if (running) {
+            c("Timer1").setEnabled(true);
+            if (PlayMusic) StartMusic();
+        }
+    }
+    if (KeepDesignSize(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
 }
 
 void frmFivestack::PlaceBoard() {

@@ -106,6 +106,7 @@ private:
     int16_t CurrentRound = 0;
     bool QuitRequested = false;
     bool Busted = false;
+    bool Minimised = false;  // the clock was stopped by minimising the window
     SplashAnimation Splash;
 };
 
