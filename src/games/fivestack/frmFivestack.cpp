@@ -73,7 +73,7 @@ const ControlSpec kBoard[] = {
     {K::Label, "lblCurrentTotal", -1, 8265, 1815, 750, 360, "0"},
     {K::Frame, "frmScore", -1, 7590, 2280, 1710, 3240, "Card Total Value"},
     {K::Button, "cmdGiveUp", -1, 7860, 5670, 1035, 555, "&Give Up"},
-    {K::Shape, "ScoringLabelOutline", -1, 780, 2760, 5940, 1500},
+    {K::Shape, "ScoringLabelOutline", -1, 480, 2760, 6600, 1500},
     {K::Label, "ScoringLabelRoundTotal", -1, 1500, 3120, 2400, 435, ""},
     {K::Label, "ScoringLabel", -1, 3900, 3120, 2400, 435, ""},
     {K::Label, "ScoringLabelInfo", -1, 1500, 3600, 4500, 285, ""},
@@ -224,6 +224,7 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
     on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
     on("lblCurrentTotal", Ev::Change, [this](EventArgs&) { lblCurrentTotal_Change(); });
     on("lblTotalScore", Ev::Change, [this](EventArgs&) { lblTotalScore_Change(); });
+    on("lblHighScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblHighScore", "ScoreRectangle"); });
     on("lblTimeBonus", Ev::Change, [this](EventArgs&) { CenterTimeBonus(); });
     on("ColumnSoft", Ev::Change, [this](EventArgs& e) { ColumnSoft_Change(e.index); });
     on("ScoringLabelInfo", Ev::Change, [this](EventArgs&) { CenterScoringInfo(); });
@@ -375,6 +376,7 @@ void frmFivestack::PlaceBoard() {
     ResizeColumnHeaders();
     lblCurrentTotal_Change();
     lblTotalScore_Change();
+    CentreLabelIn(*this, "lblHighScore", "ScoreRectangle");
     CenterTimeBonus();
     CenterScoringLabel();
     CenterScoringInfo();
