@@ -374,7 +374,7 @@ void frmFivestack::PlaceBoard() {
     const int clientHeight = height() - 660;
     c("StatusBar1").move(0, clientHeight - 330, clientWidth, 330);
     ResizeColumnHeaders();
-    lblCurrentTotal_Change();
+    CenterCardTotal();
     lblTotalScore_Change();
     CentreLabelIn(*this, "lblHighScore", "ScoreRectangle");
     CenterTimeBonus();

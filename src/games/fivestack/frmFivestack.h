@@ -69,6 +69,7 @@ private:
     void ClearBoard();
     void DealFirstCard();
     void lblCurrentTotal_Change();
+    void CenterCardTotal();
     void UpdateCardTotalValue();
     void ClearCardTotalRows();
     void ColumnSoft_Change(int index);
