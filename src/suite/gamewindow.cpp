@@ -346,6 +346,12 @@ void CentreLabelIn(Form& window, const char* label, const char* box) {
     text.setLeft(rectangle.left() + (rectangle.width() - width) / 2);
 }
 
+std::vector<ControlSpec> TimeMenuEntries(std::span<const TimeEntry> entries) {
+    std::vector<ControlSpec> specs;
+    for (const TimeEntry& e : entries) specs.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTime"});
+    return specs;
+}
+
 void ClearTimeCheck(Form& window, std::span<const TimeEntry> entries) {
     for (const TimeEntry& entry : entries)
         if (Control* menu = window.find(entry.menu)) menu->setChecked(false);

@@ -31,6 +31,7 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "suite/settings.h"
 #include "window/control.h"
@@ -193,6 +194,8 @@ struct TimeEntry {
     int seconds;          // 45
     const char* caption;  // "&45 seconds (default)"
 };
+// The menu entries of the time limits, under mnuTime.
+std::vector<ControlSpec> TimeMenuEntries(std::span<const TimeEntry> entries);
 // Unticks every entry.
 void ClearTimeCheck(Form& window, std::span<const TimeEntry> entries);
 // TimeLimit = the entry's seconds, ticks only it. The game then shows the

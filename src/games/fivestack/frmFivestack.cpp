@@ -79,17 +79,16 @@ const ControlSpec kBoard[] = {
     {K::Label, "ScoringLabelInfo", -1, 1500, 3600, 4500, 285, ""},
 };
 
+// The common menus; the File menu has no Take Score, which the Give Up
+// button stands for.
 std::vector<ControlSpec> Menus() {
-    std::vector<ControlSpec> m = {
-        {K::Menu, "mnuFile", -1, 0, 0, 0, 0, "&File"},
-        {K::Menu, "mnuPlay", -1, 0, 0, 0, 0, "&Play", "mnuFile"},
-        {K::Menu, "mnuPause", -1, 0, 0, 0, 0, "Pau&se", "mnuFile"},
-        {K::Menu, "mnuExit", -1, 0, 0, 0, 0, "E&xit", "mnuFile"},
-    };
+    std::vector<ControlSpec> m;
+    for (const ControlSpec& s : FileMenu())
+        if (std::string(s.name) != "mnuTakeScore") m.push_back(s);
     for (const ControlSpec& s : OptionsMenuHead()) m.push_back(s);
     m.push_back({K::Menu, "mnuCustom", -1, 0, 0, 0, 0, "&User Options...", "mnuOptions"});
     for (const ControlSpec& s : OptionsMenuTail()) m.push_back(s);
-    for (const TimeEntry& e : kTimeEntries) m.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTime"});
+    for (const ControlSpec& s : TimeMenuEntries(kTimeEntries)) m.push_back(s);
     for (const ControlSpec& s : HelpMenu()) m.push_back(s);
     return m;
 }
