@@ -150,6 +150,17 @@ void SetTimer(Form& window, const std::string& name, int interval, bool enabled)
     timer.setEnabled(enabled);
 }
 
+void BeginFormLoad(Form& window, int16_t timeLimit, int16_t deckDesign) {
+    window.setMousePointer(11);
+    window.c("Timer4").setEnabled(true);
+    window.c("Timer1").setEnabled(false);
+    TimeLimit = timeLimit;
+    PlaySounds = true;
+    PlayMusic = false;
+    DeckDesign = deckDesign;
+    CountDownScore = true;
+}
+
 void CentreOnScreen(Form& window) {
     Platform& platform = window.runtime().platform();
     window.move((platform.screenWidth() - window.width()) / 2, (platform.screenHeight() - window.height()) / 2);
@@ -296,6 +307,25 @@ void LeaveGameWindow(Form& window, const std::string& settingsFile, const Settin
     window.runtime().show("frmSelect");
 }
 
+void ConfirmCloseGameWindow(Form& window, EventArgs& args, bool pausedFirst, const std::function<void()>& pauseHandler,
+                            const std::string& settingsFile, const SettingsLayout& settings) {
+    if (!AskYesNo(CloseQuestion())) {
+        args.cancel = true;
+        if (pausedFirst && window.loaded()) pauseHandler();
+        return;
+    }
+    LeaveGameWindow(window, settingsFile, settings);
+}
+
+bool KeepDesignSize(Form& window, int designWidth, int designHeight) {
+    if (window.windowState() == 1) return false;
+    if ((window.width() < designWidth || window.height() < designHeight) && window.windowState() == 0) {
+        window.setSize(designWidth, designHeight);
+        return false;
+    }
+    return true;
+}
+
 void ShowModalPaused(Form& window, const std::string& formName, const char* messageLabel) {
     RunPaused(window, [&window, &formName] { window.runtime().show(formName, true); }, messageLabel);
 }
@@ -309,6 +339,12 @@ void RunPaused(Form& window, const std::function<void()>& step, const char* mess
     step();
     if (!window.loaded()) return;
     if (pause.enabled() && !reads(kGameOver) && !pausedBefore) window.raise(&pause, Ev::Click);
+}
+
+std::vector<ControlSpec> TimeMenuEntries(std::span<const TimeEntry> entries) {
+    std::vector<ControlSpec> specs;
+    for (const TimeEntry& e : entries) specs.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTime"});
+    return specs;
 }
 
 void ClearTimeCheck(Form& window, std::span<const TimeEntry> entries) {

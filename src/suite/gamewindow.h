@@ -31,6 +31,7 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "suite/labels.h"
 #include "suite/settings.h"
@@ -40,6 +41,7 @@ namespace ch {
 
 class Form;
 class RuntimeError;
+struct EventArgs;
 
 // Captions the game logic tests, exactly as they stand.
 inline constexpr const char* kPlayCaption = "&Play";
@@ -80,6 +82,13 @@ std::span<const ControlSpec> OptionsMenuHead();   // mnuOptions: mnuView, mnuCle
 std::span<const ControlSpec> OptionsMenuTail();   // mnuTime, mnuDeck with mnuPalm, mnuMagic, mnuNight, mnuHot
 std::span<const ControlSpec> HelpMenu();          // mnuHelp: mnuRules, mnuAbout
 
+// Where a game puts a control of the standing set when its board needs
+// another place for it.
+struct ControlPlace {
+    const char* name;
+    int left, top, width, height;
+};
+
 // The state of the standing controls at load: fonts of the big labels,
 // lblMessage and lblScoring hidden, cmdPause disabled, the play captions and
 // tool tips, the fixed captions of the boxes ("Time:", "Score:", "Round:").
@@ -88,6 +97,10 @@ void PrepareStandingControls(Form& window);
 void SetTimer(Form& window, const std::string& name, int interval, bool enabled);
 
 // ---- Form_Load ------------------------------------------------------------
+// The first steps of Form_Load: the hourglass, Timer4 on, Timer1 off, and the
+// shared defaults: TimeLimit, PlaySounds on, PlayMusic off, DeckDesign,
+// CountDownScore on. The game then sets its own scoring values.
+void BeginFormLoad(Form& window, int16_t timeLimit, int16_t deckDesign = 1);
 // left = (screen width - width) / 2, top likewise, integer division.
 void CentreOnScreen(Form& window);
 // Window caption = AppTitle; panel 1 "Welcome to " + AppTitle + two blanks;
@@ -156,6 +169,17 @@ std::string CloseQuestion();
 // GameInProgress false, StopMusic if PlayMusic, the selector shown again.
 void LeaveGameWindow(Form& window, const std::string& settingsFile, const SettingsLayout& settings);
 
+// Form_QueryUnload of a game window: the close question (CloseQuestion); a
+// game the window paused before it (`pausedFirst`, by `pauseHandler`) goes
+// on after a No through the same handler, and the close is cancelled; a Yes
+// leaves the window (LeaveGameWindow).
+void ConfirmCloseGameWindow(Form& window, EventArgs& args, bool pausedFirst, const std::function<void()>& pauseHandler,
+                            const std::string& settingsFile, const SettingsLayout& settings);
+// The first step of Form_Resize: false when the window is minimised, or when
+// it was smaller than its design size and has been set back to it (a further
+// resize follows); true when the board is to be placed.
+bool KeepDesignSize(Form& window, int designWidth, int designHeight);
+
 // Around a modal window (rules, about, Hall of Fame): a running game that is
 // neither paused nor over (by `messageLabel`'s caption) is paused by a click
 // of cmdPause before and resumed by another after, unless it was paused
@@ -172,6 +196,8 @@ struct TimeEntry {
     int seconds;          // 45
     const char* caption;  // "&45 seconds (default)"
 };
+// The menu entries of the time limits, under mnuTime.
+std::vector<ControlSpec> TimeMenuEntries(std::span<const TimeEntry> entries);
 // Unticks every entry.
 void ClearTimeCheck(Form& window, std::span<const TimeEntry> entries);
 // TimeLimit = the entry's seconds, ticks only it. The game then shows the

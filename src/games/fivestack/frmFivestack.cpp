@@ -35,11 +35,7 @@ const TimeEntry kTimeEntries[] = {
 // Fivestack's own places for the standing controls: the time, score and
 // round boxes stand in the top band beside the deck, the buttons at the
 // right edge above the Card Total.
-struct Place {
-    const char* name;
-    int left, top, width, height;
-};
-const Place kStandingPlaces[] = {
+const ControlPlace kStandingPlaces[] = {
     {"cmdPlay", 8220, 120, 1095, 375},
     {"cmdPause", 8220, 555, 1095, 375},
     {"lblTime", 4680, 60, 1095, 255},
@@ -77,23 +73,22 @@ const ControlSpec kBoard[] = {
     {K::Label, "lblCurrentTotal", -1, 8265, 1815, 750, 360, "0"},
     {K::Frame, "frmScore", -1, 7590, 2280, 1710, 3240, "Card Total Value"},
     {K::Button, "cmdGiveUp", -1, 7860, 5670, 1035, 555, "&Give Up"},
-    {K::Shape, "ScoringLabelOutline", -1, 780, 2760, 5940, 1500},
+    {K::Shape, "ScoringLabelOutline", -1, 480, 2760, 6600, 1500},
     {K::Label, "ScoringLabelRoundTotal", -1, 1500, 3120, 2400, 435, ""},
     {K::Label, "ScoringLabel", -1, 3900, 3120, 2400, 435, ""},
     {K::Label, "ScoringLabelInfo", -1, 1500, 3600, 4500, 285, ""},
 };
 
+// The common menus; the File menu has no Take Score, which the Give Up
+// button stands for.
 std::vector<ControlSpec> Menus() {
-    std::vector<ControlSpec> m = {
-        {K::Menu, "mnuFile", -1, 0, 0, 0, 0, "&File"},
-        {K::Menu, "mnuPlay", -1, 0, 0, 0, 0, "&Play", "mnuFile"},
-        {K::Menu, "mnuPause", -1, 0, 0, 0, 0, "Pau&se", "mnuFile"},
-        {K::Menu, "mnuExit", -1, 0, 0, 0, 0, "E&xit", "mnuFile"},
-    };
+    std::vector<ControlSpec> m;
+    for (const ControlSpec& s : FileMenu())
+        if (std::string(s.name) != "mnuTakeScore") m.push_back(s);
     for (const ControlSpec& s : OptionsMenuHead()) m.push_back(s);
     m.push_back({K::Menu, "mnuCustom", -1, 0, 0, 0, 0, "&User Options...", "mnuOptions"});
     for (const ControlSpec& s : OptionsMenuTail()) m.push_back(s);
-    for (const TimeEntry& e : kTimeEntries) m.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTime"});
+    for (const ControlSpec& s : TimeMenuEntries(kTimeEntries)) m.push_back(s);
     for (const ControlSpec& s : HelpMenu()) m.push_back(s);
     return m;
 }
@@ -110,7 +105,7 @@ const std::vector<ControlSpec>& Layout() {
         std::vector<ControlSpec> all;
         for (ControlSpec s : StandingControls()) {
             if (Unused(s.name)) continue;
-            for (const Place& p : kStandingPlaces)
+            for (const ControlPlace& p : kStandingPlaces)
                 if (std::string(s.name) == p.name) {
                     s.left = p.left;
                     s.top = p.top;
@@ -228,6 +223,7 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
     on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
     on("lblCurrentTotal", Ev::Change, [this](EventArgs&) { lblCurrentTotal_Change(); });
     on("lblTotalScore", Ev::Change, [this](EventArgs&) { lblTotalScore_Change(); });
+    on("lblHighScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblHighScore", "ScoreRectangle"); });
     on("lblTimeBonus", Ev::Change, [this](EventArgs&) { CenterTimeBonus(); });
     on("ColumnSoft", Ev::Change, [this](EventArgs& e) { ColumnSoft_Change(e.index); });
     on("ScoringLabelInfo", Ev::Change, [this](EventArgs&) { CenterScoringInfo(); });
@@ -306,13 +302,7 @@ SettingsLayout frmFivestack::SettingsSections() {
 }
 
 void frmFivestack::Form_Load() {
-    setMousePointer(11);
-    c("Timer4").setEnabled(true);
-    c("Timer1").setEnabled(false);
-    PlaySounds = true;
-    PlayMusic = false;
-    DeckDesign = 1;
-    CountDownScore = true;
+    BeginFormLoad(*this, kDefaultTimeLimit);
     GameInProgress = false;
     BonusScore = kDefaultBonusScore;
     TimeBonusMax = kDefaultTimeBonusMax;
@@ -343,24 +333,32 @@ void frmFivestack::Form_QueryUnload(EventArgs& args) {
     const std::string& info = c("ScoringLabelInfo").caption();
     const bool pauseFirst = GameInProgress && c("cmdPause").enabled() && info != kGamePaused && info != kGameOver;
     if (pauseFirst) cmdPause_Click();
-    if (!AskYesNo(CloseQuestion())) {
-        args.cancel = true;
-        if (pauseFirst && loaded()) cmdPause_Click();
-        return;
-    }
-    LeaveGameWindow(*this, kSettingsFile, SettingsSections());
+    ConfirmCloseGameWindow(*this, args, pauseFirst, [this] { cmdPause_Click(); }, kSettingsFile, SettingsSections());
 }
 
 // The cards keep their size: a resize only moves the board to the middle of
 // the window, the command buttons to its right edge, the status bar to its
-// bottom.
+// bottom. A minimised window stops the clock and the music of a running
+// round; restored, they go on unless the game is paused.
 void frmFivestack::Form_Resize() {
-    if (windowState() == 1) return;
-    if ((width() < kDesignWidth || height() < kDesignHeight) && windowState() == 0) {
-        setSize(kDesignWidth, kDesignHeight);
+    const bool running = GameInProgress && !TakingScore && c("cmdPause").caption() == kPauseCaption &&
+                         c("cmdPause").enabled();
+    if (windowState() == 1) {
+        if (running && !Minimised) {
+            Minimised = true;
+            c("Timer1").setEnabled(false);
+            if (PlayMusic) StopMusic();
+        }
         return;
     }
-    PlaceBoard();
+    if (Minimised) {
+        Minimised = false;
+        if (running) {
+            c("Timer1").setEnabled(true);
+            if (PlayMusic) StartMusic();
+        }
+    }
+    if (KeepDesignSize(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
 }
 
 void frmFivestack::PlaceBoard() {
@@ -375,8 +373,9 @@ void frmFivestack::PlaceBoard() {
     const int clientHeight = height() - 660;
     c("StatusBar1").move(0, clientHeight - 330, clientWidth, 330);
     ResizeColumnHeaders();
-    lblCurrentTotal_Change();
+    CenterCardTotal();
     lblTotalScore_Change();
+    CentreLabelIn(*this, "lblHighScore", "ScoreRectangle");
     CenterTimeBonus();
     CenterScoringLabel();
     CenterScoringInfo();

@@ -69,6 +69,7 @@ private:
     void ClearBoard();
     void DealFirstCard();
     void lblCurrentTotal_Change();
+    void CenterCardTotal();
     void UpdateCardTotalValue();
     void ClearCardTotalRows();
     void ColumnSoft_Change(int index);
@@ -105,6 +106,7 @@ private:
     int16_t CurrentRound = 0;
     bool QuitRequested = false;
     bool Busted = false;
+    bool Minimised = false;  // the clock was stopped by minimising the window
     SplashAnimation Splash;
 };
 

@@ -132,11 +132,16 @@ void frmFivestack::ShowNextCard() {
 
 // A perfect 105 is scored at once, from within the Hit that made it.
 void frmFivestack::lblCurrentTotal_Change() {
-    Control& total = c("lblCurrentTotal");
-    CardTotal = CInt(Val(total.caption()));
+    CardTotal = CInt(Val(c("lblCurrentTotal").caption()));
     UpdateCardTotalValue();
     if (CardTotal == kPerfectTotal) cmdGiveUp_Click();
     if (!loaded()) return;
+    CenterCardTotal();
+}
+
+// The Card Total stands over the middle of the table.
+void frmFivestack::CenterCardTotal() {
+    Control& total = c("lblCurrentTotal");
     const Control& table = c("frmScore");
     total.setLeft(table.left() + table.width() / 2 - total.width() / 2);
 }
