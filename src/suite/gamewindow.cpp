@@ -1,6 +1,7 @@
 #include "suite/gamewindow.h"
 
 #include <algorithm>
+#include <limits>
 #include <stdexcept>
 
 #include "suite/cards.h"
@@ -148,6 +149,22 @@ void SetTimer(Form& window, const std::string& name, int interval, bool enabled)
     Control& timer = window.c(name);
     timer.setInterval(interval);
     timer.setEnabled(enabled);
+}
+
+void SetGameTimers(Form& window, const GameTimers& timers) {
+    SetTimer(window, "Timer1", 1000, false);
+    SetTimer(window, "Timer2", 200, timers.dialBlinkOn);
+    SetTimer(window, "Timer3", 60000, true);
+    SetTimer(window, "Timer4", timers.splashInterval, timers.splashOn);
+}
+
+void FinishLoading(Form& window, const std::string& tableName, const std::string& defaultScore) {
+    GameStartTime = WallClock();
+    ShowSplashCaptions(window);
+    CentreOnScreen(window);
+    InitTimeDial(window);
+    ShowHighScore(tableName, window, defaultScore);
+    window.setMousePointer(0);
 }
 
 void CentreOnScreen(Form& window) {
@@ -395,6 +412,61 @@ SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeigh
          [w, designHeight] { return WindowHeightText(*w, designHeight); }},
     };
 }
+
+SettingsSection PlayMusicSection(Form& window) {
+    Form* w = &window;
+    return {"[Play Music]", [w](const std::string& v) { SetPlayMusic(*w, ParseBoolText(v), false); },
+            [] { return std::string(BoolText(PlayMusic)); }};
+}
+
+SettingsSection PlaySoundsSection(Form& window) {
+    Form* w = &window;
+    return {"[Play Sounds]", [w](const std::string& v) { SetPlaySounds(*w, ParseBoolText(v)); },
+            [] { return std::string(BoolText(PlaySounds)); }};
+}
+
+SettingsSection TimeSection(Form& window, std::span<const TimeEntry> entries, const char* name) {
+    Form* w = &window;
+    return {name, [w, entries](const std::string& v) { ApplyTimeSetting(*w, v, entries); },
+            [] { return NumText(TimeLimit); }};
+}
+
+SettingsSection DeckSection(Form& window, const char* const (&menus)[4]) {
+    Form* w = &window;
+    const char* const* list = menus;
+    return {"[Deck]",
+            [w, list](const std::string& v) {
+                for (int design = 1; design <= 4; ++design)
+                    if (v == NumText(design)) {
+                        w->raise(&w->c(list[design - 1]), Ev::Click);
+                        return;
+                    }
+            },
+            [] { return NumText(DeckDesign); }};
+}
+
+SettingsSection CountDownSection(const char* name) {
+    return {name, [](const std::string& v) { CountDownScore = ParseBoolText(v); },
+            [] { return std::string(BoolText(CountDownScore)); }};
+}
+
+namespace {
+template <typename T>
+SettingsSection NumberSectionOf(const char* name, T& setting) {
+    T* target = &setting;
+    return {name,
+            [target](const std::string& v) {
+                const double n = Val(v);
+                if (n >= static_cast<double>(std::numeric_limits<T>::min()) &&
+                    n <= static_cast<double>(std::numeric_limits<T>::max()))
+                    *target = static_cast<T>(CLng(n));
+            },
+            [target] { return NumText(*target); }};
+}
+}  // namespace
+
+SettingsSection NumberSection(const char* name, int16_t& setting) { return NumberSectionOf(name, setting); }
+SettingsSection NumberSection(const char* name, int32_t& setting) { return NumberSectionOf(name, setting); }
 
 void CentreLabelIn(Form& window, const char* label, const char* box) {
     Control& text = window.c(label);

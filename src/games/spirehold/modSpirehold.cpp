@@ -1,8 +1,6 @@
 // Spirehold's rules: the tower table, the neighbour rule, what a removal
-// turns over, the stack stages, the high run count-up and the scoring checks.
+// turns over, the stack stages and the scoring checks.
 #include "games/spirehold/modSpirehold.h"
-
-#include <cmath>
 
 #include "suite/cards.h"
 #include "window/basic.h"
@@ -60,18 +58,6 @@ const char* StackStageKey(int stackIndex) {
     if (stackIndex >= 42 && stackIndex <= 51) return "BACK";
     if (stackIndex == 52) return "EMPTY";
     return "";
-}
-
-CountUp HighRunCountUp(int32_t total) {
-    if (total > INT16_MAX || total < INT16_MIN) throw RuntimeError(kErrOverflow, "Overflow");
-    CountUp up;
-    up.step = CInt(total / 20.0);
-    if (up.step > 0)
-        up.steps = total >= 1 ? (total - 1) / up.step + 1 : 0;
-    else if (up.step == 0)
-        up.steps = total >= 1 ? 1 : 0;
-    if (up.step == 0 && up.steps == 1) up.step = static_cast<int16_t>(total);
-    return up;
 }
 
 bool IsCustomScoring(const ScoringValues& v) {
