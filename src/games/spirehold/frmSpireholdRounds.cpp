@@ -144,6 +144,7 @@ void frmSpirehold::EndOnError(const RuntimeError& error) {
     if (!loaded()) return;
     c("lblScoring").setVisible(false);
     c("lblCurrentScore").setForeColor(kBlue);
+    c("lblMessage").setVisible(true);
     GameOver();
 }
 

@@ -90,11 +90,11 @@ FieldResult CheckScoringField(const ScoringField& field, const std::string& text
     if (v < field.lowest) {
         result.check = FieldCheck::TooLow;
         result.value = 0;
-        result.text = "0";
+        result.text = NumText(0);
     } else if (v > field.highest) {
         result.check = FieldCheck::TooHigh;
         result.value = field.valueWhenHigh;
-        result.text = std::to_string(field.highest);
+        result.text = NumText(field.highest);
     } else {
         result.value = sixteenBit ? CInt(v) : CLng(v);
     }
