@@ -1,6 +1,7 @@
 #include "suite/gamewindow.h"
 
 #include <algorithm>
+#include <limits>
 #include <stdexcept>
 
 #include "suite/cards.h"
@@ -159,6 +160,22 @@ void BeginFormLoad(Form& window, int16_t timeLimit, int16_t deckDesign) {
     PlayMusic = false;
     DeckDesign = deckDesign;
     CountDownScore = true;
+}
+
+void SetGameTimers(Form& window, const GameTimers& timers) {
+    SetTimer(window, "Timer1", 1000, false);
+    SetTimer(window, "Timer2", 200, timers.dialBlinkOn);
+    SetTimer(window, "Timer3", 60000, true);
+    SetTimer(window, "Timer4", timers.splashInterval, timers.splashOn);
+}
+
+void FinishLoading(Form& window, const std::string& tableName, const std::string& defaultScore) {
+    GameStartTime = WallClock();
+    ShowSplashCaptions(window);
+    CentreOnScreen(window);
+    InitTimeDial(window);
+    ShowHighScore(tableName, window, defaultScore);
+    window.setMousePointer(0);
 }
 
 void CentreOnScreen(Form& window) {
@@ -461,18 +478,6 @@ SettingsSection PlaySoundsSection(Form& window) {
             [] { return std::string(BoolText(PlaySounds)); }};
 }
 
-SettingsSection TimeSection(Form& window, std::span<const TimeEntry> entries) {
-    Form* w = &window;
-    return {"[Time]", [w, entries](const std::string& v) { ApplyTimeSetting(*w, v, entries); },
-            [] { return NumText(TimeLimit); }};
-}
-
-SettingsSection DeckSection(Form& window, const char* const (&menus)[4]) {
-    Form* w = &window;
-    const char* const(*list)[4] = &menus;
-    return {"[Deck]", [w, list](const std::string& v) { ApplyDeckSetting(*w, v, *list); },
-            [] { return NumText(DeckDesign); }};
-}
 
 void ApplyWindowState(Form& window, const std::string& value) {
     if (value == "0" || value == "1" || value == "2") window.setWindowState(static_cast<int>(Val(value)));
@@ -508,6 +513,42 @@ SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeigh
          [w, designHeight] { return WindowHeightText(*w, designHeight); }},
     };
 }
+
+SettingsSection TimeSection(Form& window, std::span<const TimeEntry> entries, const char* name) {
+    Form* w = &window;
+    return {name, [w, entries](const std::string& v) { ApplyTimeSetting(*w, v, entries); },
+            [] { return NumText(TimeLimit); }};
+}
+
+SettingsSection DeckSection(Form& window, const char* const (&menus)[4]) {
+    Form* w = &window;
+    const char* const(*list)[4] = &menus;
+    return {"[Deck]", [w, list](const std::string& v) { ApplyDeckSetting(*w, v, *list); },
+            [] { return NumText(DeckDesign); }};
+}
+
+SettingsSection CountDownSection(const char* name) {
+    return {name, [](const std::string& v) { CountDownScore = ParseBoolText(v); },
+            [] { return std::string(BoolText(CountDownScore)); }};
+}
+
+namespace {
+template <typename T>
+SettingsSection NumberSectionOf(const char* name, T& setting) {
+    T* target = &setting;
+    return {name,
+            [target](const std::string& v) {
+                const double n = Val(v);
+                if (n >= static_cast<double>(std::numeric_limits<T>::min()) &&
+                    n <= static_cast<double>(std::numeric_limits<T>::max()))
+                    *target = static_cast<T>(CLng(n));
+            },
+            [target] { return NumText(*target); }};
+}
+}  // namespace
+
+SettingsSection NumberSection(const char* name, int16_t& setting) { return NumberSectionOf(name, setting); }
+SettingsSection NumberSection(const char* name, int32_t& setting) { return NumberSectionOf(name, setting); }
 
 void ShowRunTimeError(const RuntimeError& error) {
     MsgBox("Run-time error '" + NumText(error.number()) + "':\r\n\r\n" + error.description(), MsgButtons::OK,

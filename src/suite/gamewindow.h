@@ -95,6 +95,15 @@ struct ControlPlace {
 void PrepareStandingControls(Form& window);
 // A timer's interval and whether it runs.
 void SetTimer(Form& window, const std::string& name, int interval, bool enabled);
+// The four timers of a game window: Timer1 the round clock (1000 ms, off),
+// Timer2 the dial blink (200 ms), Timer3 the time of day (60000 ms, on),
+// Timer4 the splash animation.
+struct GameTimers {
+    bool dialBlinkOn = false;
+    int splashInterval = 200;
+    bool splashOn = false;
+};
+void SetGameTimers(Form& window, const GameTimers& timers = {});
 
 // ---- Form_Load ------------------------------------------------------------
 // The first steps of Form_Load: the hourglass, Timer4 on, Timer1 off, and the
@@ -109,6 +118,10 @@ void ShowWelcome(Form& window);
 // lblCompanyProduct "Quillmark Presents", lblVersion "Version 4.0",
 // lblProductName AppTitle, lblPlatform "Windows 95/98/NT"; frmSplash shown.
 void ShowSplashCaptions(Form& window);
+// The last steps of Form_Load, in their order: GameStartTime = now, the
+// splash captions, the window centred on the screen, the dial initialised,
+// the table's leader shown, the normal pointer.
+void FinishLoading(Form& window, const std::string& tableName, const std::string& defaultScore);
 // The wall clock as "h:mm AMPM" ("3:07 PM").
 std::string TimeOfDayText(int64_t wallClockMs);
 // Panel 3 of StatusBar1 = the time of day (Timer3, or Timer6 in Blackrush).
@@ -243,10 +256,6 @@ void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face);
 // when the board is to be placed.
 bool ResizeToPlace(Form& window, int smallestWidth, int smallestHeight);
 // The sections every settings file has, applied through the menu handlers.
-SettingsSection PlayMusicSection(Form& window);
-SettingsSection PlaySoundsSection(Form& window);
-SettingsSection TimeSection(Form& window, std::span<const TimeEntry> entries);
-SettingsSection DeckSection(Form& window, const char* const (&menus)[4]);
 
 // ---- Window size in the settings file -------------------------------------
 // "[State]": 0 normal, 1 minimised, 2 maximised; other values change nothing.
@@ -262,6 +271,22 @@ std::string WindowHeightText(const Form& window, int designHeight);
 // The three sections of the window's size in their order, "[State]" first so
 // that a maximised window ignores the size read after it.
 SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeight);
+
+// ---- Sections of a settings file that every game has ----------------------------
+// Each is read back through the handler its menu uses and written from the
+// shared variable.
+SettingsSection PlayMusicSection(Form& window);   // "[Play Music]", "True"/"False"
+SettingsSection PlaySoundsSection(Form& window);  // "[Play Sounds]"
+// "[Time]" (Blackrush names it "[Time Limit]"): a value that names an entry clicks it.
+SettingsSection TimeSection(Form& window, std::span<const TimeEntry> entries, const char* name = "[Time]");
+// "[Deck]": 1 to 4 clicks that design's entry.
+SettingsSection DeckSection(Form& window, const char* const (&menus)[4] = kDeckMenus);
+// CountDownScore under the game's name for it ("[Count Down Score]").
+SettingsSection CountDownSection(const char* name = "[Count Down Score]");
+// A scoring value: the number read, rounded half to even, when it lies in the
+// range of the setting's type; any other value changes nothing.
+SettingsSection NumberSection(const char* name, int16_t& setting);
+SettingsSection NumberSection(const char* name, int32_t& setting);
 
 // ---- Errors ----------------------------------------------------------------------
 // (Labels centred in their boxes: CentreLabelIn in labels.h.)

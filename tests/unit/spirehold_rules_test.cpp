@@ -106,33 +106,6 @@ TEST(SpireholdStack, StagesFollowTheIndexOfTheNextCard) {
     EXPECT_STREQ(StackStageKey(53), "");
 }
 
-TEST(SpireholdHighRun, CountsInTwentyStepsOrWholeStepsOnly) {
-    const CountUp six = HighRunCountUp(6000);
-    EXPECT_EQ(six.step, 300);
-    EXPECT_EQ(six.steps, 20);
-    // 50 / 20 = 2.5 rounds to 2: 25 steps, exact.
-    EXPECT_EQ(HighRunCountUp(50).step, 2);
-    EXPECT_EQ(HighRunCountUp(50).steps, 25);
-    // 70 / 20 = 3.5 rounds to 4: 18 whole steps pay 72, not 70.
-    EXPECT_EQ(HighRunCountUp(70).step, 4);
-    EXPECT_EQ(HighRunCountUp(70).steps, 18);
-    // A total of 1 to 10 has no step: it is paid at once.
-    EXPECT_EQ(HighRunCountUp(10).step, 10);
-    EXPECT_EQ(HighRunCountUp(10).steps, 1);
-    EXPECT_EQ(HighRunCountUp(0).steps, 0);
-    EXPECT_EQ(HighRunCountUp(32767).step, 1638);
-}
-
-TEST(SpireholdHighRun, ATotalPastSixteenBitsOverflows) {
-    try {
-        HighRunCountUp(32768);
-        FAIL() << "no overflow";
-    } catch (const RuntimeError& e) {
-        EXPECT_EQ(e.number(), kErrOverflow);
-        EXPECT_EQ(e.description(), "Overflow");
-    }
-}
-
 TEST(SpireholdScoring, FieldsTakeTheLeadingNumberWithinTheirLimits) {
     const ScoringField& card = kScoringFields[0];
     EXPECT_EQ(CheckScoringField(card, "1000", true).check, FieldCheck::Passed);

@@ -3,9 +3,7 @@
 // menu entries.
 #include "games/spirehold/frmSpirehold.h"
 
-#include <limits>
 #include <memory>
-#include <type_traits>
 #include <vector>
 
 #include "games/spirehold/frmSpireholdCustom.h"
@@ -152,10 +150,7 @@ frmSpirehold::frmSpirehold(Runtime& runtime) : Form(runtime, "frmSpirehold") {
     for (const ControlSpec& p : kPlaces) c(p.name).move(p.left, p.top, p.width, p.height);
     for (const ControlSpec& p : kButtonPlaces) c(p.name).move(p.left, p.top, p.width, p.height);
     PrepareStandingControls(*this);
-    SetTimer(*this, "Timer1", 1000, false);
-    SetTimer(*this, "Timer2", 200, false);
-    SetTimer(*this, "Timer3", 60000, true);
-    SetTimer(*this, "Timer4", 200, false);
+    SetGameTimers(*this);
     c("cmdExit").setToolTipText("Exits the game");
     c("cmdTakeScore").setToolTipText("End current round and take score");
     c("lblCards").setToolTipText("Displays your Current Score");
@@ -218,48 +213,26 @@ frmSpirehold::frmSpirehold(Runtime& runtime) : Form(runtime, "frmSpirehold") {
     expose("TowersCompleted", Expose(TowersCompleted));
     expose("NewHighRun", Expose(NewHighRun));
     expose("CurrentRound", Expose(CurrentRound));
-    expose("DeckCards", [this](int index, Value& out) {
-        if (index < 0 || index >= kDeckCardsSize) return false;
-        out = DeckCards[static_cast<size_t>(index)];
-        return true;
-    });
+    expose("DeckCards", Expose(DeckCards));
 }
 
 // ---- Loading and closing ---------------------------------------------------------
 
 SettingsLayout frmSpirehold::SettingsSections() {
-    auto number = [](const std::string& v, auto& target) {
-        // A value out of the setting's range changes nothing.
-        const double n = Val(v);
-        using T = std::remove_reference_t<decltype(target)>;
-        if (n >= static_cast<double>(std::numeric_limits<T>::min()) &&
-            n <= static_cast<double>(std::numeric_limits<T>::max()))
-            target = static_cast<T>(CLng(n));
-    };
     SettingsLayout layout = {
-        {"[Play Music]", [this](const std::string& v) { SetPlayMusic(*this, ParseBoolText(v), false); },
-         [] { return std::string(BoolText(PlayMusic)); }},
-        {"[Time]", [this](const std::string& v) { ApplyTimeSetting(*this, v, kTimeEntries); },
-         [] { return NumText(TimeLimit); }},
-        {"[Play Sounds]", [this](const std::string& v) { SetPlaySounds(*this, ParseBoolText(v)); },
-         [] { return std::string(BoolText(PlaySounds)); }},
-        {"[Hi Run]", [this, number](const std::string& v) { number(v, HighestRun); },
-         [this] { return NumText(HighestRun); }},
-        {"[Card Bonus]", [this, number](const std::string& v) { number(v, CardValue); },
-         [this] { return NumText(CardValue); }},
-        {"[Bonus Score]", [this, number](const std::string& v) { number(v, BonusScore); },
-         [this] { return NumText(BonusScore); }},
-        {"[Tower Bonus]", [this, number](const std::string& v) { number(v, TowerBonus); },
-         [this] { return NumText(TowerBonus); }},
-        {"[High Run Bonus]", [this, number](const std::string& v) { number(v, HighRunBonus); },
-         [this] { return NumText(HighRunBonus); }},
-        {"[Count Down Score]", [](const std::string& v) { CountDownScore = ParseBoolText(v); },
-         [] { return std::string(BoolText(CountDownScore)); }},
-        {"[Time Bonus]", [number](const std::string& v) { number(v, TimeBonus); }, [] { return NumText(TimeBonus); }},
+        PlayMusicSection(*this),
+        TimeSection(*this, kTimeEntries),
+        PlaySoundsSection(*this),
+        NumberSection("[Hi Run]", HighestRun),
+        NumberSection("[Card Bonus]", CardValue),
+        NumberSection("[Bonus Score]", BonusScore),
+        NumberSection("[Tower Bonus]", TowerBonus),
+        NumberSection("[High Run Bonus]", HighRunBonus),
+        CountDownSection(),
+        NumberSection("[Time Bonus]", TimeBonus),
     };
     for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
-    layout.push_back({"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kDeckMenus); },
-                      [] { return NumText(DeckDesign); }});
+    layout.push_back(DeckSection(*this));
     return layout;
 }
 
@@ -282,12 +255,7 @@ void frmSpirehold::Form_Load() {
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
     CheckForCustom();
-    GameStartTime = runtime().platform().wallClock();
-    ShowSplashCaptions(*this);
-    CentreOnScreen(*this);
-    InitTimeDial(*this);
-    ShowHighScore(kTable, *this, kDefaultScore);
-    setMousePointer(0);
+    FinishLoading(*this, kTable, kDefaultScore);
 }
 
 void frmSpirehold::Form_QueryUnload(EventArgs& args) {

@@ -11,6 +11,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "games/spirehold/modSpirehold.h"
 #include "suite/gamewindow.h"
@@ -81,7 +82,7 @@ private:
     SettingsLayout SettingsSections();
 
     // The board.
-    std::array<std::string, spirehold::kDeckCardsSize> DeckCards;
+    std::vector<std::string> DeckCards = std::vector<std::string>(spirehold::kDeckCardsSize);
     int16_t StackIndex = spirehold::kFirstStackIndex;
     std::string UpCardCode;
     int16_t UpCardValue = spirehold::kNoRank;

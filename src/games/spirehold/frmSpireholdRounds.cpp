@@ -17,7 +17,6 @@ namespace {
 const char* const kTable = "SpireholdHiScores";
 const char* const kDefaultScore = "30000";
 const char* const kEndsCurrentTip = "Ends the current game";
-constexpr int kCyan = 0xFFFF00;
 constexpr int kBlue = 0xFF0000;
 constexpr int kRed = 255;
 }  // namespace
@@ -145,6 +144,7 @@ void frmSpirehold::EndOnError(const RuntimeError& error) {
     if (!loaded()) return;
     c("lblScoring").setVisible(false);
     c("lblCurrentScore").setForeColor(kBlue);
+    c("lblMessage").setVisible(true);
     GameOver();
 }
 
@@ -219,47 +219,15 @@ void frmSpirehold::TowerScore() {
     c("lblScoring").setVisible(false);
 }
 
-// Paid only for a record set in the round just ended.
+// Paid only for a record set in the round just ended; its count runs on
+// 16-bit numbers.
 void frmSpirehold::HighRunScore() {
-    Control& scoring = c("lblScoring");
     if (!NewHighRun) {
-        scoring.setVisible(false);
+        c("lblScoring").setVisible(false);
         return;
     }
-    int32_t total = HighestRun * HighRunBonus;
-    Control& message = c("lblMessage");
-    Control& score = c("lblCurrentScore");
-    message.setCaption("Highest Run Bonus!");
-    runtime().refresh();
-    score.setForeColor(kCyan);
     NewHighRun = false;
-
-    scoring.setCaption(FormatScore(total));
-    scoring.setLeft((width() - scoring.width()) / 2);
-    scoring.setForeColor(kRed);
-    scoring.setVisible(true);
-    runtime().refresh();
-    Sleep(1000);
-
-    if (CountDownScore) {
-        const CountUp up = HighRunCountUp(total);
-        for (int i = 0; i < up.steps; ++i) {
-            AddToScore(up.step);
-            ShowScore();
-            runtime().refresh();
-            total -= up.step;
-            scoring.setForeColor(0);
-            scoring.setCaption(FormatScore(total));
-            Wave("\\Snap.wav");
-            Sleep(75);
-        }
-    } else {
-        AddToScore(total);
-        ShowScore();
-        runtime().refresh();
-    }
-    score.setForeColor(kBlue);
-    scoring.setVisible(false);
+    AwardBonus(*this, "Highest Run Bonus", HighestRun, HighRunBonus, {.sixteenBitCount = true});
 }
 
 }  // namespace ch

@@ -1,8 +1,6 @@
 // Spirehold's rules: the tower table, the neighbour rule, what a removal
-// turns over, the stack stages, the high run count-up and the scoring checks.
+// turns over, the stack stages and the scoring checks.
 #include "games/spirehold/modSpirehold.h"
-
-#include <cmath>
 
 #include "suite/cards.h"
 #include "window/basic.h"
@@ -62,18 +60,6 @@ const char* StackStageKey(int stackIndex) {
     return "";
 }
 
-CountUp HighRunCountUp(int32_t total) {
-    if (total > INT16_MAX || total < INT16_MIN) throw RuntimeError(kErrOverflow, "Overflow");
-    CountUp up;
-    up.step = CInt(total / 20.0);
-    if (up.step > 0)
-        up.steps = total >= 1 ? (total - 1) / up.step + 1 : 0;
-    else if (up.step == 0)
-        up.steps = total >= 1 ? 1 : 0;
-    if (up.step == 0 && up.steps == 1) up.step = static_cast<int16_t>(total);
-    return up;
-}
-
 bool IsCustomScoring(const ScoringValues& v) {
     return !(v.cardValue == kDefaultCardValue && v.bonusScore == kDefaultBonusScore &&
              v.highRunBonus == kDefaultHighRunBonus && v.towerBonus == kDefaultTowerBonus &&
@@ -104,11 +90,11 @@ FieldResult CheckScoringField(const ScoringField& field, const std::string& text
     if (v < field.lowest) {
         result.check = FieldCheck::TooLow;
         result.value = 0;
-        result.text = "0";
+        result.text = NumText(0);
     } else if (v > field.highest) {
         result.check = FieldCheck::TooHigh;
         result.value = field.valueWhenHigh;
-        result.text = std::to_string(field.highest);
+        result.text = NumText(field.highest);
     } else {
         result.value = sixteenBit ? CInt(v) : CLng(v);
     }

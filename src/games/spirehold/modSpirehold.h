@@ -1,8 +1,8 @@
 // The rules of Spirehold as plain data and functions: the 28 places of the
 // three towers and which places cover which, the neighbour rule of the run
 // (King and Ace are neighbours both ways), which cards a removal turns over,
-// the stages of the stack, the high run count-up, the scoring defaults and
-// the checks of the custom scoring dialog.
+// the stages of the stack, the scoring defaults and the checks of the custom
+// scoring dialog.
 #pragma once
 
 #include <array>
@@ -65,16 +65,6 @@ std::vector<int> CardsTurnedBy(int removed, const std::array<bool, kTowerCards>&
 // The picture key of the stack for the index of its next card: "FULL",
 // "HALF", "BACK", "EMPTY" at 52, and "" past it (the stack has run out).
 const char* StackStageKey(int stackIndex);
-
-// The high run count-up: T paid in steps of S = T / 20 (rounded half to
-// even), as many steps as a count from 1 to T by S makes. A total that does
-// not fit 16 bits is an overflow (RuntimeError 6). A step of 0 (T from 1 to
-// 10) pays T at once in a single step.
-struct CountUp {
-    int16_t step = 0;
-    int steps = 0;
-};
-CountUp HighRunCountUp(int32_t total);
 
 // Whether the scoring values differ from the defaults (CustomScoringInUse).
 struct ScoringValues {
