@@ -8,7 +8,6 @@
 // round and of the game).
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
