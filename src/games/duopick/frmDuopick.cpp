@@ -52,8 +52,8 @@ const ControlSpec kBoard[] = {
 };
 // The big labels stand over the middle of the field.
 const ControlSpec kMessages[] = {
-    {K::Label, "lblMessage", -1, 1657, 2520, 5520, 615},
-    {K::Label, "lblScoring", -1, 1657, 3240, 5520, 615},
+    {K::Label, "lblMessage", -1, 817, 2520, 7200, 615},
+    {K::Label, "lblScoring", -1, 817, 3240, 7200, 615},
 };
 
 std::vector<ControlSpec> Layout() {
