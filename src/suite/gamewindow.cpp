@@ -1,5 +1,6 @@
 #include "suite/gamewindow.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "suite/cards.h"
@@ -131,8 +132,8 @@ void PrepareStandingControls(Form& window) {
     window.c("lblProductName").setFont("Arial", 24, true);
     window.c("lblCompanyProduct").setFont("Arial", 12, true);
     for (const char* centred : {"lblCompanyProduct", "lblProductName", "lblCurrentScore", "lblCurrentRound"})
-        window.c(centred).setAlignment(2);
-    window.c("lblCurrentScore").setForeColor(0xFF0000);
+        if (Control* label = window.find(centred)) label->setAlignment(2);
+    if (Control* score = window.find("lblCurrentScore")) score->setForeColor(0xFF0000);
     window.c("Surface").setBackColor(0);
     Control& pause = window.c("cmdPause");
     pause.setEnabled(false);
@@ -252,10 +253,10 @@ void SetPlayCaptions(Form& window, bool playing, const char* endCaption) {
     Caption(window, "mnuPlay", caption);
 }
 
-void SetPausedControls(Form& window) {
+void SetPausedControls(Form& window, const char* messageLabel) {
     Control& pause = window.c("cmdPause");
     pause.setToolTipText("Resumes the current game");
-    Control& message = window.c("lblMessage");
+    Control& message = window.c(messageLabel);
     message.setCaption(kGamePaused);
     if (GameInProgress) message.setVisible(true);
     window.c("Timer1").setEnabled(false);
@@ -264,10 +265,10 @@ void SetPausedControls(Form& window) {
     for (const char* name : kPlayControls) Enable(window, name, false);
 }
 
-void SetResumedControls(Form& window) {
+void SetResumedControls(Form& window, const char* messageLabel) {
     Control& pause = window.c("cmdPause");
     pause.setToolTipText("Pauses the current game");
-    Control& message = window.c("lblMessage");
+    Control& message = window.c(messageLabel);
     message.setVisible(false);
     message.setCaption("");
     window.c("Timer1").setEnabled(true);
@@ -308,6 +309,15 @@ void RunPaused(Form& window, const std::function<void()>& step, const char* mess
     step();
     if (!window.loaded()) return;
     if (pause.enabled() && !reads(kGameOver) && !pausedBefore) window.raise(&pause, Ev::Click);
+}
+
+void CentreLabelIn(Form& window, const char* label, const char* box) {
+    Control& text = window.c(label);
+    const Control& rectangle = window.c(box);
+    const int width = std::min(rectangle.width(),
+                               window.runtime().platform().textWidth(text.caption(), text.fontSize(), text.fontBold()) + 30);
+    text.setWidth(width);
+    text.setLeft(rectangle.left() + (rectangle.width() - width) / 2);
 }
 
 void ClearTimeCheck(Form& window, std::span<const TimeEntry> entries) {
@@ -470,6 +480,20 @@ SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeigh
         {"[Height]", [w](const std::string& v) { ApplyWindowHeight(*w, v); },
          [w, designHeight] { return WindowHeightText(*w, designHeight); }},
     };
+}
+
+void CentreLabelIn(Form& window, const char* label, const char* box) {
+    Control& text = window.c(label);
+    const Control& frame = window.c(box);
+    const int textWidth = window.runtime().platform().textWidth(text.caption(), text.fontSize(), text.fontBold());
+    const int width = std::min(frame.width(), textWidth + 30);
+    text.setWidth(width);
+    text.setLeft(frame.left() + (frame.width() - width) / 2);
+}
+
+void ShowRunTimeError(const RuntimeError& error) {
+    MsgBox("Run-time error '" + NumText(error.number()) + "':\r\n\r\n" + error.description(), MsgButtons::OK,
+           MsgIcon::Critical, AppTitle);
 }
 
 void FinishGame(Form& window, const std::string& tableName, const std::string& defaultScore,

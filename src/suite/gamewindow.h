@@ -38,6 +38,7 @@
 namespace ch {
 
 class Form;
+class RuntimeError;
 
 // Captions the game logic tests, exactly as they stand.
 inline constexpr const char* kPlayCaption = "&Play";
@@ -140,10 +141,11 @@ void SetPlayCaptions(Form& window, bool playing, const char* endCaption = kEndGa
 // (shown if GameInProgress), Timer1 off, "&Resume" on cmdPause and mnuPause,
 // cmdExit/cmdQuit, cmdTakeScore, cmdPlay, mnuExit, mnuPlay, mnuTakeScore
 // disabled. The game then hides its cards and stops the music.
-void SetPausedControls(Form& window);
+// A game whose messages stand in another label names it in `messageLabel`.
+void SetPausedControls(Form& window, const char* messageLabel = "lblMessage");
 // The reverse: lblMessage hidden and emptied, Timer1 on, "Pau&se", the
 // controls enabled. The game then shows its cards and restarts the music.
-void SetResumedControls(Form& window);
+void SetResumedControls(Form& window, const char* messageLabel = "lblMessage");
 // A Yes/No question with the question icon and the title AppTitle.
 bool AskYesNo(const std::string& question);
 // The question of closing the window: a game in progress, under five minutes
@@ -162,6 +164,10 @@ void ShowModalPaused(Form& window, const std::string& formName, const char* mess
 // a question: a running game is paused by a click of cmdPause before `step`
 // and resumed by another after it, unless it was paused already or is over.
 void RunPaused(Form& window, const std::function<void()>& step, const char* messageLabel = "lblMessage");
+
+// A label fits its text and stands in the middle of its box:
+// left = box left + (box width - label width) / 2.
+void CentreLabelIn(Form& window, const char* label, const char* box);
 
 // ---- Menus --------------------------------------------------------------------
 struct TimeEntry {
@@ -233,6 +239,17 @@ std::string WindowHeightText(const Form& window, int designHeight);
 // The three sections of the window's size in their order, "[State]" first so
 // that a maximised window ignores the size read after it.
 SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeight);
+
+// ---- Labels and errors ---------------------------------------------------------
+// A label fits its text (the platform's text width plus 30 twips, no wider
+// than the box) and stands in the middle of its box: the score and round
+// boxes re-centre their number at each change of its caption.
+void CentreLabelIn(Form& window, const char* label, const char* box);
+// A run-time error no handler of the game takes ("Overflow" of a count-up
+// past its 16-bit range): the platform's message "Run-time error 'n':", two
+// line breaks and the description, with the critical icon and the title
+// AppTitle. The game then ends its game in order; the program goes on.
+void ShowRunTimeError(const RuntimeError& error);
 
 // ---- End of a game ------------------------------------------------------------
 struct FinishGameSteps {
