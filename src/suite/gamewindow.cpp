@@ -311,15 +311,6 @@ void RunPaused(Form& window, const std::function<void()>& step, const char* mess
     if (pause.enabled() && !reads(kGameOver) && !pausedBefore) window.raise(&pause, Ev::Click);
 }
 
-void CentreLabelIn(Form& window, const char* label, const char* box) {
-    Control& text = window.c(label);
-    const Control& rectangle = window.c(box);
-    const int width = std::min(rectangle.width(),
-                               window.runtime().platform().textWidth(text.caption(), text.fontSize(), text.fontBold()) + 30);
-    text.setWidth(width);
-    text.setLeft(rectangle.left() + (rectangle.width() - width) / 2);
-}
-
 void ClearTimeCheck(Form& window, std::span<const TimeEntry> entries) {
     for (const TimeEntry& entry : entries)
         if (Control* menu = window.find(entry.menu)) menu->setChecked(false);
@@ -480,15 +471,6 @@ SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeigh
         {"[Height]", [w](const std::string& v) { ApplyWindowHeight(*w, v); },
          [w, designHeight] { return WindowHeightText(*w, designHeight); }},
     };
-}
-
-void CentreLabelIn(Form& window, const char* label, const char* box) {
-    Control& text = window.c(label);
-    const Control& frame = window.c(box);
-    const int textWidth = window.runtime().platform().textWidth(text.caption(), text.fontSize(), text.fontBold());
-    const int width = std::min(frame.width(), textWidth + 30);
-    text.setWidth(width);
-    text.setLeft(frame.left() + (frame.width() - width) / 2);
 }
 
 void ShowRunTimeError(const RuntimeError& error) {

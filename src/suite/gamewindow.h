@@ -32,6 +32,7 @@
 #include <span>
 #include <string>
 
+#include "suite/labels.h"
 #include "suite/settings.h"
 #include "window/control.h"
 
@@ -165,10 +166,6 @@ void ShowModalPaused(Form& window, const std::string& formName, const char* mess
 // and resumed by another after it, unless it was paused already or is over.
 void RunPaused(Form& window, const std::function<void()>& step, const char* messageLabel = "lblMessage");
 
-// A label fits its text and stands in the middle of its box:
-// left = box left + (box width - label width) / 2.
-void CentreLabelIn(Form& window, const char* label, const char* box);
-
 // ---- Menus --------------------------------------------------------------------
 struct TimeEntry {
     const char* menu;     // "mnu45"
@@ -240,11 +237,8 @@ std::string WindowHeightText(const Form& window, int designHeight);
 // that a maximised window ignores the size read after it.
 SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeight);
 
-// ---- Labels and errors ---------------------------------------------------------
-// A label fits its text (the platform's text width plus 30 twips, no wider
-// than the box) and stands in the middle of its box: the score and round
-// boxes re-centre their number at each change of its caption.
-void CentreLabelIn(Form& window, const char* label, const char* box);
+// ---- Errors ----------------------------------------------------------------------
+// (Labels centred in their boxes: CentreLabelIn in labels.h.)
 // A run-time error no handler of the game takes ("Overflow" of a count-up
 // past its 16-bit range): the platform's message "Run-time error 'n':", two
 // line breaks and the description, with the critical icon and the title

@@ -90,7 +90,6 @@ private:
     bool Reset();
     bool NewDeck();
     void ClearDial();
-    void FitLabel(Control& label);
     void CenterScoringLabel();
     void CenterScoringInfo();
     void ShowScoringLabel(bool show);

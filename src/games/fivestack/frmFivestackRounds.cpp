@@ -219,8 +219,8 @@ void frmFivestack::TakeScore() {
         roundTotal.setCaption("Round " + NumText(CurrentRound - 1) + " Total: ");
         message.setFontSize(18);
         message.setCaption(FormatScore(roundScore));
-        FitLabel(roundTotal);
-        FitLabel(message);
+        FitLabelToText(roundTotal);
+        FitLabelToText(message);
         roundTotal.setLeft(outline.left() + outline.width() / 2 - roundTotal.width() / 2 - message.width() / 2);
         roundTotal.setTop(outline.top() + outline.height() / 2 - roundTotal.height());
         message.setLeft(roundTotal.left() + roundTotal.width());
@@ -397,14 +397,10 @@ void frmFivestack::ClearDial() {
 
 // ---- The big labels ----------------------------------------------------------------
 
-void frmFivestack::FitLabel(Control& label) {
-    label.setWidth(runtime().platform().textWidth(label.caption(), label.fontSize(), label.fontBold()) + 30);
-}
-
 void frmFivestack::CenterScoringLabel() {
     Control& message = c("ScoringLabel");
     const Control& outline = c("ScoringLabelOutline");
-    FitLabel(message);
+    FitLabelToText(message);
     message.setLeft(outline.left() + (outline.width() - message.width()) / 2);
     message.setTop(outline.top() + (outline.height() - message.height()) / 2);
 }
@@ -412,7 +408,7 @@ void frmFivestack::CenterScoringLabel() {
 void frmFivestack::CenterScoringInfo() {
     Control& info = c("ScoringLabelInfo");
     const Control& outline = c("ScoringLabelOutline");
-    FitLabel(info);
+    FitLabelToText(info);
     info.setLeft(outline.left() + (outline.width() - info.width()) / 2);
     info.setTop(outline.top() + outline.height() / 2 + 60);
 }

@@ -184,8 +184,6 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
     on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
     on("cmdTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(false); });
     on("mnuTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(true); });
-    on("cmdExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
-    on("mnuExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
     on("FieldCardPicture", Ev::Click, [this](EventArgs& e) { FieldCardPicture_Click(e.index); });
     on("FieldCardPicture", Ev::MouseMove, [this](EventArgs& e) { FieldCardPicture_MouseMove(e.index); });
     on("UpCardPicture", Ev::Click, [this](EventArgs&) { UpCardPicture_Click(); });
@@ -193,14 +191,12 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
     on("PlayCardPicture", Ev::Click, [this](EventArgs&) { PlayCardPicture_Click(); });
     on("PlayCardPicture", Ev::MouseMove, [this](EventArgs&) { PlayCardPicture_MouseMove(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    on("Timer2", Ev::Timer, [this](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *this); });
-    on("Timer3", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
-    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::Sumfall); });
+    BindSharedHandlers(*this, Splash, SplashFace::Sumfall);
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { lblCurrentScore_Change(); });
     on("lblMessage", Ev::Change, [this](EventArgs&) { lblMessage_Change(); });
-    on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreIn("lblCurrentRound", "RoundRectangle"); });
-    on("lblCurrentElevens", Ev::Change, [this](EventArgs&) { CentreIn("lblCurrentElevens", "ElevensRectangle"); });
-    on("lblCurrentTotal", Ev::Change, [this](EventArgs&) { CentreIn("lblCurrentTotal", "CardTotalRectangle"); });
+    on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
+    on("lblCurrentElevens", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentElevens", "ElevensRectangle"); });
+    on("lblCurrentTotal", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentTotal", "CardTotalRectangle"); });
     for (const TimeEntry& entry : kTimeEntries)
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int goal = 10; goal <= 15; ++goal)
@@ -209,18 +205,12 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
         on(kSelectionColours[static_cast<size_t>(i)].menu, Ev::Click, [this, i](EventArgs&) { mnuColor_Click(i); });
     for (int design = 1; design <= 4; ++design)
         on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
-    on("mnuSounds", Ev::Click, [this](EventArgs&) { SetPlaySounds(*this, !PlaySounds); });
-    on("mnuMusic", Ev::Click, [this](EventArgs&) {
-        SetPlayMusic(*this, !PlayMusic, GameInProgress && c("cmdPause").caption() == kPauseCaption);
-    });
     on("mnuDrawTimer", Ev::Click, [this](EventArgs&) { mnuDrawTimer_Click(); });
     on("mnuScoring", Ev::Click, [this](EventArgs&) { this->runtime().show("frmSumfallCustomScoring", true); });
     on("mnuViewHiScore", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmHighScores"); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
     on("mnuSave", Ev::Click, [this](EventArgs&) { this->runtime().show("frmSave", true); });
     on("mnuOpen", Ev::Click, [this](EventArgs&) { this->runtime().show("frmOpen", true); });
-    on("mnuRules", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmRules"); });
-    on("mnuAbout", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmAbout"); });
 
     expose("BonusRoundScore", Expose(BonusRoundScore));
     expose("CompletionBonus", Expose(CompletionBonus));
@@ -256,18 +246,15 @@ SettingsLayout frmSumfall::SettingsSections() {
                  if (v == NumText(i)) mnuColor_Click(i);
          },
          [this] { return NumText(SelectionColorIndex); }},
-        {"[Play Music]", [this](const std::string& v) { SetPlayMusic(*this, ParseBoolText(v), false); },
-         [] { return std::string(BoolText(PlayMusic)); }},
-        {"[Time]", [this](const std::string& v) { ApplyTimeSetting(*this, v, kTimeEntries); },
-         [] { return NumText(TimeLimit); }},
+        PlayMusicSection(*this),
+        TimeSection(*this, kTimeEntries),
         {"[DrawTimer]",
          [this](const std::string& v) {
              CountDownScore = ParseBoolText(v);
              c("mnuDrawTimer").setChecked(CountDownScore);
          },
          [this] { return std::string(BoolText(CountDownScore)); }},
-        {"[Play Sounds]", [this](const std::string& v) { SetPlaySounds(*this, ParseBoolText(v)); },
-         [] { return std::string(BoolText(PlaySounds)); }},
+        PlaySoundsSection(*this),
         {"[CardGoal]",
          [this](const std::string& v) {
              for (const char* menu : kGoalMenus) c(menu).setChecked(false);
@@ -281,19 +268,12 @@ SettingsLayout frmSumfall::SettingsSections() {
          [] { return NumText(CardGoal); }},
     };
     for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
-    layout.push_back({"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kDeckMenus); },
-                      [] { return NumText(DeckDesign); }});
+    layout.push_back(DeckSection(*this, kDeckMenus));
     return layout;
 }
 
 void frmSumfall::Form_Load() {
-    setMousePointer(11);
-    c("Timer4").setEnabled(true);
-    c("Timer1").setEnabled(false);
-    TimeLimit = 90;
-    PlaySounds = true;
-    PlayMusic = false;
-    DeckDesign = 1;
+    BeginFormLoad(*this, 90, "mnu90");
     CountDownScore = true;
     CardGoal = kDefaultCardGoal;
     BonusRoundScore = kDefaultBonusRoundScore;
@@ -301,21 +281,14 @@ void frmSumfall::Form_Load() {
     CombinationBonus = kDefaultCombinationBonus;
     TimeBonus = kDefaultTimeBonus;
     CustomScoringInUse = false;
-    c("mnu90").setChecked(true);
     c("mnu11").setChecked(true);
-    c("mnuSounds").setChecked(true);
     c("mnuDrawTimer").setChecked(true);
     c(kSelectionColours[kDefaultSelectionColour].menu).setChecked(true);
     c("lblElevens").setCaption(CardGoalWord(CardGoal));
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
-    GameStartTime = runtime().platform().wallClock();
-    ShowSplashCaptions(*this);
-    CentreOnScreen(*this);
-    InitTimeDial(*this);
-    ShowHighScore(kTable, *this, kDefaultScore);
     c("mnuSave").setEnabled(false);
-    setMousePointer(0);
+    CompleteFormLoad(*this, kTable, kDefaultScore);
 }
 
 // A saved game named on the command line is opened the first time the window
@@ -341,12 +314,7 @@ void frmSumfall::Form_QueryUnload(EventArgs& args) {
 // The cards keep their size: a resize only places the board around the
 // middle of the window, the buttons at its right edge.
 void frmSumfall::Form_Resize() {
-    if (windowState() == 1) return;
-    if ((width() < kDesignWidth || height() < kDesignHeight) && windowState() == 0) {
-        setSize(kDesignWidth, kDesignHeight);
-        return;
-    }
-    PlaceBoard();
+    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
 }
 
 void frmSumfall::PlaceBoard() {
@@ -377,23 +345,14 @@ void frmSumfall::PlaceBoard() {
     c("CardTotalBevelSide").move(x + 1005, pileTop + 375, 0, 450);
     c("CardTotalBevelBottom").move(x + 90, pileTop + 825, 915, 0);
     c("lblCardCount").move(x - 150, std::min(pileTop + 960, clientHeight - 330 - 255 - 50), 1365, 255);
-    CentreIn("lblCurrentTotal", "CardTotalRectangle");
+    CentreLabelIn(*this, "lblCurrentTotal", "CardTotalRectangle");
     lblMessage_Change();
 }
 
 void frmSumfall::ShowScore() { c("lblCurrentScore").setCaption(FormatScore(CurrentScore)); }
 
-// A label fits its text and stands in the middle of its box.
-void frmSumfall::CentreIn(const char* label, const char* rectangle) {
-    Control& text = c(label);
-    const Control& box = c(rectangle);
-    const int width = std::min(box.width(), runtime().platform().textWidth(text.caption(), text.fontSize(), text.fontBold()) + 30);
-    text.setWidth(width);
-    text.setLeft(box.left() + (box.width() - width) / 2);
-}
-
 void frmSumfall::lblCurrentScore_Change() {
-    CentreIn("lblCurrentScore", "ScoreRectangle");
+    CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle");
     c("lblCurrentScore").setForeColor(CurrentScore < 0 ? 255 : 0xFF0000);
 }
 

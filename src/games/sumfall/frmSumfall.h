@@ -105,7 +105,6 @@ private:
     void SelectionColor(int index);
     void ClearColorCheck();
     void ShowScore();
-    void CentreIn(const char* label, const char* rectangle);
     void PlaceBoard();
     void Wave(const char* name) const;
     SettingsLayout SettingsSections();

@@ -100,17 +100,17 @@ bool frmSumfall::Deal(bool newGame) {
             CurrentRound = 1;
         }
 
-        CentreIn("lblCurrentScore", "ScoreRectangle");
+        CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle");
         for (const char* name : {"lblCurrentScore", "ScoreRectangle", "ScoreBevelSide", "ScoreBevelBottom", "lblScore"})
             c(name).setVisible(true);
         c("lblCurrentRound").setCaption(NumText(CurrentRound));
-        CentreIn("lblCurrentRound", "RoundRectangle");
+        CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle");
         for (const char* name : {"lblCurrentRound", "RoundRectangle", "RoundBevelSide", "RoundBevelBottom", "lblRound"})
             c(name).setVisible(true);
 
         CombinationCount = 0;
         c("lblCurrentElevens").setCaption(NumText(CombinationCount));
-        CentreIn("lblCurrentElevens", "ElevensRectangle");
+        CentreLabelIn(*this, "lblCurrentElevens", "ElevensRectangle");
         for (const char* name :
              {"lblCurrentElevens", "ElevensRectangle", "ElevensBevelSide", "ElevensBevelBottom", "lblElevens"})
             c(name).setVisible(true);
