@@ -10,6 +10,7 @@
 #include "suite/dial.h"
 #include "suite/frmRules.h"
 #include "suite/highscores.h"
+#include "suite/labels.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -133,6 +134,8 @@ frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
     on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
     BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
+    on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle"); });
+    on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
     for (const TimeEntry& entry : kTimeEntries)
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int design = 1; design <= 4; ++design)
