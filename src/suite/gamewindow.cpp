@@ -445,8 +445,8 @@ void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face) 
     window.on("Timer2", Ev::Timer, [w](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *w); });
     window.on("Timer3", Ev::Timer, [w](EventArgs&) { ShowTimeOfDay(*w); });
     window.on("Timer4", Ev::Timer, [w, &splash, face](EventArgs&) { splash.step(*w, face); });
-    for (const char* exit : {"cmdExit", "mnuExit"})
-        window.on(exit, Ev::Click, [w](EventArgs&) { w->runtime().unload(*w); });
+    for (const char* exit : {"cmdExit", "cmdQuit", "mnuExit"})
+        if (window.has(exit)) window.on(exit, Ev::Click, [w](EventArgs&) { w->runtime().unload(*w); });
     window.on("mnuSounds", Ev::Click, [w](EventArgs&) { SetPlaySounds(*w, !PlaySounds); });
     window.on("mnuMusic", Ev::Click, [w](EventArgs&) {
         SetPlayMusic(*w, !PlayMusic, GameInProgress && w->c("cmdPause").caption() == kPauseCaption);

@@ -247,8 +247,8 @@ void BeginFormLoad(Form& window, int timeLimit, const char* timeMenu);
 // the dial prepared, the table's top score shown, the normal pointer.
 void CompleteFormLoad(Form& window, const std::string& tableName, const std::string& defaultScore);
 // The handlers every game window binds alike: Timer2 the dial's blink,
-// Timer3 the time of day, Timer4 the splash ring; cmdExit and mnuExit close
-// the window; mnuSounds and mnuMusic switch; mnuView (where the window has
+// Timer3 the time of day, Timer4 the splash ring; cmdExit (or cmdQuit) and
+// mnuExit close the window; mnuSounds and mnuMusic switch; mnuView (where the window has
 // it), mnuRules and mnuAbout open their windows around a pause.
 void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face);
 // Form_Resize's guard: false for a minimised window, and for one below its

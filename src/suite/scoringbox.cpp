@@ -1,3 +1,4 @@
+// The check of one box of a custom scoring dialog on OK.
 #include "suite/scoringbox.h"
 
 #include "suite/common.h"

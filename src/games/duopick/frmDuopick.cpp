@@ -10,6 +10,7 @@
 #include "suite/dial.h"
 #include "suite/frmRules.h"
 #include "suite/highscores.h"
+#include "suite/labels.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -52,8 +53,8 @@ const ControlSpec kBoard[] = {
 };
 // The big labels stand over the middle of the field.
 const ControlSpec kMessages[] = {
-    {K::Label, "lblMessage", -1, 1657, 2520, 5520, 615},
-    {K::Label, "lblScoring", -1, 1657, 3240, 5520, 615},
+    {K::Label, "lblMessage", -1, 817, 2520, 7200, 615},
+    {K::Label, "lblScoring", -1, 817, 3240, 7200, 615},
 };
 
 std::vector<ControlSpec> Layout() {
@@ -133,6 +134,8 @@ frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
     on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
     BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
+    on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle"); });
+    on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
     for (const TimeEntry& entry : kTimeEntries)
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int design = 1; design <= 4; ++design)

@@ -1,3 +1,5 @@
+// The User Options dialog of Duopick: its layout, the limits and messages of
+// its five boxes, and OK, Cancel and Default.
 #include "games/duopick/frmDuopickCustomScoring.h"
 
 #include "games/duopick/frmDuopick.h"

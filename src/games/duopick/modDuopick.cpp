@@ -1,3 +1,5 @@
+// Duopick's rules as data and arithmetic: the card places and the covering
+// table, pairs and runs, the stack's stages, and the awards of a round.
 #include "games/duopick/modDuopick.h"
 
 namespace ch::duopick {
