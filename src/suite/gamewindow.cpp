@@ -131,8 +131,8 @@ void PrepareStandingControls(Form& window) {
     window.c("lblProductName").setFont("Arial", 24, true);
     window.c("lblCompanyProduct").setFont("Arial", 12, true);
     for (const char* centred : {"lblCompanyProduct", "lblProductName", "lblCurrentScore", "lblCurrentRound"})
-        window.c(centred).setAlignment(2);
-    window.c("lblCurrentScore").setForeColor(0xFF0000);
+        if (Control* label = window.find(centred)) label->setAlignment(2);
+    if (Control* score = window.find("lblCurrentScore")) score->setForeColor(0xFF0000);
     window.c("Surface").setBackColor(0);
     Control& pause = window.c("cmdPause");
     pause.setEnabled(false);

@@ -81,6 +81,8 @@ std::span<const ControlSpec> HelpMenu();          // mnuHelp: mnuRules, mnuAbout
 // The state of the standing controls at load: fonts of the big labels,
 // lblMessage and lblScoring hidden, cmdPause disabled, the play captions and
 // tool tips, the fixed captions of the boxes ("Time:", "Score:", "Round:").
+// A window that shows its score or round in labels of its own (Blackrush's
+// lblTotalScore) leaves lblCurrentScore and lblCurrentRound out.
 void PrepareStandingControls(Form& window);
 // A timer's interval and whether it runs.
 void SetTimer(Form& window, const std::string& name, int interval, bool enabled);
