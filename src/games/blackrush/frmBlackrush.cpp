@@ -239,14 +239,7 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
     on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
     on("Timer5", Ev::Timer, [this](EventArgs&) { Timer5_Timer(); });
     on("Timer6", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
-    // lblTime stands centred over the fourth column's first card.
-    on("lblTime", Ev::Change, [this](EventArgs&) {
-        Control& time = c("lblTime");
-        const Control& card = ColumnImage(3, 0);
-        const int width = this->runtime().platform().textWidth(time.caption(), time.fontSize(), time.fontBold()) + 30;
-        time.setWidth(std::min(width, 1500));
-        time.setLeft(card.left() + card.width() / 2 - time.width() / 2);
-    });
+    on("lblTime", Ev::Change, [this](EventArgs&) { lblTime_Change(); });
     on("lblRoundScore", Ev::Change, [this](EventArgs&) { CentreIn(c("lblRoundScore"), c("frameScoreInfo")); });
     for (const TimeEntry& entry : kTimeEntries)
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
@@ -389,6 +382,16 @@ void frmBlackrush::PlaceBoard() {
     const int clientWidth = width() - 120;
     const int clientHeight = height() - 660;
     c("StatusBar1").move(0, clientHeight - 330, clientWidth, 330);
+    lblTime_Change();
+}
+
+// lblTime stands centred over the fourth column's first card.
+void frmBlackrush::lblTime_Change() {
+    Control& time = c("lblTime");
+    const Control& card = ColumnImage(3, 0);
+    const int width = runtime().platform().textWidth(time.caption(), time.fontSize(), time.fontBold()) + 30;
+    time.setWidth(std::min(width, 1500));
+    time.setLeft(card.left() + card.width() / 2 - time.width() / 2);
 }
 
 // ---- Menus ----------------------------------------------------------------------------

@@ -41,6 +41,7 @@ private:
     void Form_Resize();
     void Form_QueryUnload(EventArgs& args);
     void PlaceBoard();
+    void lblTime_Change();
     void mnuTime_Click(const char* menu);
     void mnuDeck_Click(int design);
     void mnuClear_Click();
