@@ -78,6 +78,14 @@ std::span<const ControlSpec> OptionsMenuHead();   // mnuOptions: mnuView, mnuCle
 std::span<const ControlSpec> OptionsMenuTail();   // mnuTime, mnuDeck with mnuPalm, mnuMagic, mnuNight, mnuHot
 std::span<const ControlSpec> HelpMenu();          // mnuHelp: mnuRules, mnuAbout
 
+// A game's own place for a standing control, and the move of each named
+// control to its place.
+struct ControlPlace {
+    const char* name;
+    int left, top, width, height;
+};
+void PlaceControls(Form& window, std::span<const ControlPlace> places);
+
 // The state of the standing controls at load: fonts of the big labels,
 // lblMessage and lblScoring hidden, cmdPause disabled, the play captions and
 // tool tips, the fixed captions of the boxes ("Time:", "Score:", "Round:").
@@ -193,6 +201,13 @@ void SetPlaySounds(Form& window, bool on);
 // PlayMusic and the tick of mnuMusic; during a running game the music starts
 // or stops at once.
 void SetPlayMusic(Form& window, bool on, bool gameRunning);
+
+// ---- Resize ------------------------------------------------------------------
+// The first step of a game window's Resize: nothing to place while the window
+// is minimised; a normal window smaller than its design size is set back to
+// that size (a further Resize follows). True when the window is to place its
+// board for its present size.
+bool KeepDesignSize(Form& window, int designWidth, int designHeight);
 
 // ---- Window size in the settings file -------------------------------------
 // "[State]": 0 normal, 1 minimised, 2 maximised; other values change nothing.

@@ -23,14 +23,12 @@ using namespace blackrush;
 namespace {
 using K = ControlKind;
 
-const char* const kTable = "BlackrushHiScores";
-const char* const kDefaultScore = "50000";
-const char* const kSettingsFile = "\\Blackrush.Ini";
+// The design size, the cards and the columns.
 constexpr int kDesignWidth = 9060;
 constexpr int kDesignHeight = 7155;
+constexpr int kColumnLeft = 270;
 constexpr int kCardWidth = 1035;
 constexpr int kCardHeight = 1455;
-constexpr int kColumnLeft = 270;
 constexpr int kColumnStep = 1428;
 constexpr int kSlotTops[kSlots] = {2355, 2730, 3150, 3555, 3945};
 constexpr int kHitLefts[kColumns] = {300, 1728, 3156, 4584};
@@ -53,15 +51,9 @@ bool NotHere(const ControlSpec& spec) {
 // Blackrush's places for the standing controls: the dial over the fourth
 // column, the score, round and high score right of the columns, the buttons
 // at the right edge.
-struct Place {
-    const char* name;
-    int left, top, width, height;
-};
-const Place kStandingPlaces[] = {
-    {"cmdPlay", 7740, 120, 1095, 375},
-    {"cmdTakeScore", 7740, 555, 1095, 375},
-    {"cmdPause", 7740, 990, 1095, 375},
-    {"cmdExit", 7740, 1425, 1095, 375},
+const ControlPlace kStandingPlaces[] = {
+    {"cmdPlay", 7740, 120, 1095, 375},   {"cmdTakeScore", 7740, 555, 1095, 375},
+    {"cmdPause", 7740, 990, 1095, 375},  {"cmdExit", 7740, 1425, 1095, 375},
     {"lblTime", 4554, 60, 1035, 255},
     {"TimerRectangle", 4524, 330, 1095, 1095},
     {"Surface", 4569, 375, 1005, 1005},
@@ -156,7 +148,7 @@ void RegisterBlackrush(Runtime& runtime) {
 frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
     setSize(kDesignWidth, kDesignHeight);
     add(Layout());
-    for (const Place& p : kStandingPlaces) c(p.name).move(p.left, p.top, p.width, p.height);
+    PlaceControls(*this, kStandingPlaces);
     PrepareStandingControls(*this);
     SetTimer(*this, "Timer1", 1000, false);
     SetTimer(*this, "Timer2", 200, false);
@@ -342,12 +334,12 @@ void frmBlackrush::Form_Load() {
     GameInProgress = false;
     ShowWelcome(*this);
     c("StatusBar1").setPanel(1, "Welcome to " + AppTitle + "!");
-    ReadSettingsINI(kSettingsFile, SettingsSections());
+    ReadSettingsINI(kSettingsFileName, SettingsSections());
     GameStartTime = runtime().platform().wallClock();
     ShowSplashCaptions(*this);
     CentreOnScreen(*this);
     InitTimeDial(*this);
-    ShowHighScore(kTable, *this, kDefaultScore);
+    ShowHighScore(kTableName, *this, kTableTopScore);
     CheckForCustom();
     setMousePointer(0);
 }
@@ -357,18 +349,13 @@ void frmBlackrush::Form_QueryUnload(EventArgs& args) {
         args.cancel = true;
         return;
     }
-    LeaveGameWindow(*this, kSettingsFile, SettingsSections());
+    LeaveGameWindow(*this, kSettingsFileName, SettingsSections());
 }
 
 // The cards keep their size: a resize centres the board in the window and
 // keeps the buttons at the right edge and the status bar at the bottom.
 void frmBlackrush::Form_Resize() {
-    if (windowState() == 1) return;
-    if ((width() < kDesignWidth || height() < kDesignHeight) && windowState() == 0) {
-        setSize(kDesignWidth, kDesignHeight);
-        return;
-    }
-    PlaceBoard();
+    if (KeepDesignSize(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
 }
 
 void frmBlackrush::PlaceBoard() {
@@ -398,7 +385,7 @@ void frmBlackrush::lblTime_Change() {
 
 void frmBlackrush::mnuTime_Click(const char* menu) {
     ChooseTimeLimit(*this, kTimeEntries, menu);
-    ShowHighScore(kTable, *this, kDefaultScore);
+    ShowHighScore(kTableName, *this, kTableTopScore);
 }
 
 void frmBlackrush::mnuDeck_Click(int design) {
@@ -409,8 +396,8 @@ void frmBlackrush::mnuDeck_Click(int design) {
 
 void frmBlackrush::mnuClear_Click() {
     if (!AskYesNo(kClearScoresQuestion)) return;
-    CreateHighScoreFile(kTable, *this, kDefaultScore);
-    ShowHighScore(kTable, *this, kDefaultScore);
+    CreateHighScoreFile(kTableName, *this, kTableTopScore);
+    ShowHighScore(kTableName, *this, kTableTopScore);
 }
 
 // The menu entry does what the button does, and nothing while the button

@@ -15,8 +15,6 @@ namespace ch {
 using namespace blackrush;
 
 namespace {
-const char* const kTable = "BlackrushHiScores";
-const char* const kDefaultScore = "50000";
 const char* const kEndGameHere = "&End game";
 const char* const kPauseHere = "P&ause";
 const char* const kGoalHint = "Create columns of 21 to increase bonus score!";
@@ -281,7 +279,7 @@ void frmBlackrush::NextRound() {
         c("Timer1").setEnabled(false);
         c("Timer3").setEnabled(false);
         if (!QuitRequested) {
-            FinishGame(*this, kTable, kDefaultScore, {nullptr, nullptr, false});
+            FinishGame(*this, kTableName, kTableTopScore, {nullptr, nullptr, false});
             if (!loaded()) return;
         }
         info.setCaption(kGameOver);

@@ -11,6 +11,12 @@
 
 namespace ch::blackrush {
 
+// The window's files: its high score tables (one per time limit, a new one
+// led by this score) and its settings.
+inline constexpr const char* kTableName = "BlackrushHiScores";
+inline constexpr const char* kTableTopScore = "50000";
+inline constexpr const char* kSettingsFileName = "\\Blackrush.Ini";
+
 constexpr int kColumns = 4;
 constexpr int kSlots = 5;         // cards a column can hold; the fifth is a Five Card Gimme
 constexpr int kDeckCards = 52;
