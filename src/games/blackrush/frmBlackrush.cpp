@@ -193,7 +193,9 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
     gimme.zOrderFront();
     c("ScoringLabelOutline").setBorderStyle(1);
     c("ScoringLabelOutline").setVisible(false);
-    for (const char* name : {"lbl21s", "lblBonus", "lblCardsUsedCount", "lblTwentyoneTime", "lblRoundScore"})
+    // The frame's labels stand in blue; the count of a round turns them red.
+    for (const char* name : {"lblTwentyOnes", "lbl21s", "lbl21Bonus", "lblBonus", "lblCardsUsed", "lblCardsUsedCount",
+                             "lblTwentyoneTime", "lblRoundScore"})
         c(name).setForeColor(0xFF0000);
     for (const char* name : {"lblRoundScore", "lblRoundScoreCount"}) {
         c(name).setAlignment(2);
