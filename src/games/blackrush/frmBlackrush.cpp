@@ -78,19 +78,19 @@ const ControlSpec kBoard[] = {
     {K::Line, "Column1Line", -1, 1501, 1620, 0, 3780},
     {K::Line, "Column2Line", -1, 2929, 1620, 0, 3780},
     {K::Line, "Column3Line", -1, 4357, 1620, 0, 3780},
-    {K::Frame, "frameScoreInfo", -1, 5700, 1560, 1920, 3840, "Twenty One Scoring Status"},
-    {K::Label, "lblTwentyOnes", -1, 120, 360, 1080, 255, "21's earned:", "frameScoreInfo"},
-    {K::Label, "lbl21s", -1, 1260, 360, 540, 255, "0", "frameScoreInfo"},
-    {K::Label, "lbl21Bonus", -1, 120, 720, 1080, 255, "Bonus:", "frameScoreInfo"},
-    {K::Label, "lblBonus", -1, 1260, 720, 540, 255, "0", "frameScoreInfo"},
-    {K::Label, "lblCardsUsed", -1, 120, 1080, 1080, 255, "Cards used:", "frameScoreInfo"},
-    {K::Label, "lblCardsUsedCount", -1, 1260, 1080, 540, 255, "0", "frameScoreInfo"},
-    {K::Label, "lblTwentyoneTime", -1, 120, 1560, 1680, 255, "21 Counter:", "frameScoreInfo"},
-    {K::ProgressBar, "ProgressBar1", -1, 120, 1860, 1680, 300, "", "frameScoreInfo"},
-    {K::Label, "lblRoundScore", -1, 60, 2520, 1800, 255, "", "frameScoreInfo"},
-    {K::Label, "lblRoundScoreCount", -1, 60, 2880, 1800, 375, "", "frameScoreInfo"},
-    {K::Shape, "ScoringLabelOutline", -1, 420, 2880, 4980, 1035},
-    {K::Label, "ScoringLabelInfo", -1, 480, 3090, 4860, 615, ""},
+    {K::Frame, "frameScoreInfo", -1, 5700, 1920, 3135, 3480, "Twenty One Scoring Status"},
+    {K::Label, "lblTwentyOnes", -1, 120, 360, 1320, 255, "21's earned:", "frameScoreInfo"},
+    {K::Label, "lbl21s", -1, 1560, 360, 1440, 255, "0", "frameScoreInfo"},
+    {K::Label, "lbl21Bonus", -1, 120, 720, 1320, 255, "Bonus:", "frameScoreInfo"},
+    {K::Label, "lblBonus", -1, 1560, 720, 1440, 255, "0", "frameScoreInfo"},
+    {K::Label, "lblCardsUsed", -1, 120, 1080, 1320, 255, "Cards used:", "frameScoreInfo"},
+    {K::Label, "lblCardsUsedCount", -1, 1560, 1080, 1440, 255, "0", "frameScoreInfo"},
+    {K::Label, "lblTwentyoneTime", -1, 120, 1560, 2880, 255, "21 Counter:", "frameScoreInfo"},
+    {K::ProgressBar, "ProgressBar1", -1, 120, 1860, 2880, 300, "", "frameScoreInfo"},
+    {K::Label, "lblRoundScore", -1, 60, 2520, 3015, 255, "", "frameScoreInfo"},
+    {K::Label, "lblRoundScoreCount", -1, 60, 2880, 3015, 375, "", "frameScoreInfo"},
+    {K::Shape, "ScoringLabelOutline", -1, 300, 3030, 5260, 675},
+    {K::Label, "ScoringLabelInfo", -1, 330, 3060, 5200, 615, ""},
     {K::Label, "lblFiveCards", -1, 0, 3600, 1620, 330, "Five Card Gimme"},
     {K::Timer, "Timer5", -1, 0, 0, 0, 0},
     {K::Timer, "Timer6", -1, 0, 0, 0, 0},
@@ -191,8 +191,17 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
     gimme.setBackStyle(0);
     gimme.setVisible(false);
     gimme.zOrderFront();
-    c("ScoringLabelOutline").setBorderStyle(1);
-    c("ScoringLabelOutline").setVisible(false);
+    // The message stands in front of the board on the window's grey, its
+    // outline around it.
+    Control& outline = c("ScoringLabelOutline");
+    outline.setBorderStyle(1);
+    outline.setVisible(false);
+    outline.zOrderFront();
+    Control& info = c("ScoringLabelInfo");
+    info.setFontSize(18);
+    info.setBackStyle(1);
+    info.setBackColor(0xC0C0C0);
+    info.zOrderFront();
     // The frame's labels stand in blue; the count of a round turns them red.
     for (const char* name : {"lblTwentyOnes", "lbl21s", "lbl21Bonus", "lblBonus", "lblCardsUsed", "lblCardsUsedCount",
                              "lblTwentyoneTime", "lblRoundScore"})
