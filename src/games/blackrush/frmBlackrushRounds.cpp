@@ -41,7 +41,10 @@ void frmBlackrush::Play() {
     CurrentScore = 0;
     ShowScore();
     PassesLeft = Scoring.CardsToPass;
+    // A new game is neither quit nor over: the rules and the Hall of Fame
+    // pause it again.
     QuitRequested = false;
+    c("ScoringLabelInfo").setCaption("");
     ShowSplash(*this, false);
     GameInProgress = true;
     SetPlayCaptions(*this, true, kEndGameHere);
