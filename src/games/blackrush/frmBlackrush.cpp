@@ -41,11 +41,11 @@ const TimeEntry kTimeEntries[] = {
 
 // The standing controls this window doesn't have: its score is lblTotalScore,
 // its messages stand in ScoringLabelInfo, its round in lblRound alone.
-bool NotHere(const ControlSpec& spec) {
+bool NotHere(const ControlSpec& control) {
     static const char* const kLeftOut[] = {"lblCurrentScore", "lblMessage",    "lblCurrentRound",
                                            "RoundRectangle",  "RoundBevelSide", "RoundBevelBottom"};
     return std::any_of(std::begin(kLeftOut), std::end(kLeftOut),
-                       [&spec](const char* name) { return std::string(name) == spec.name; });
+                       [&control](const char* name) { return std::string(name) == control.name; });
 }
 
 // Blackrush's places for the standing controls: the dial over the fourth
@@ -117,24 +117,24 @@ std::vector<ControlSpec> Menus() {
 }
 
 std::vector<ControlSpec> Layout() {
-    std::vector<ControlSpec> specs;
-    for (const ControlSpec& spec : StandingControls())
-        if (!NotHere(spec)) specs.push_back(spec);
-    const auto add = [&specs](std::span<const ControlSpec> part) { specs.insert(specs.end(), part.begin(), part.end()); };
+    std::vector<ControlSpec> layout;
+    for (const ControlSpec& control : StandingControls())
+        if (!NotHere(control)) layout.push_back(control);
+    const auto add = [&layout](std::span<const ControlSpec> part) { layout.insert(layout.end(), part.begin(), part.end()); };
     add(TakeScoreButton());
     add(ExitButton());
     static const char* const kColumnNames[kColumns] = {"Column1", "Column2", "Column3", "Column4"};
     for (int i = 0; i < kColumns; ++i) {
         const int left = kColumnLeft + kColumnStep * i;
         for (int slot = 0; slot < kSlots; ++slot)
-            specs.push_back({K::Image, kColumnNames[i], slot, left, kSlotTops[slot], kCardWidth, kCardHeight});
-        specs.push_back({K::Label, "ColumnTotal", i, left + 270, 1620, 495, 300, "0"});
-        specs.push_back({K::Label, "ColumnSoft", i, left + 270, 1980, 495, 255, ""});
-        specs.push_back({K::Button, "cmdHit", i, kHitLefts[i], 5520, kCardWidth, 570, "Hit"});
+            layout.push_back({K::Image, kColumnNames[i], slot, left, kSlotTops[slot], kCardWidth, kCardHeight});
+        layout.push_back({K::Label, "ColumnTotal", i, left + 270, 1620, 495, 300, "0"});
+        layout.push_back({K::Label, "ColumnSoft", i, left + 270, 1980, 495, 255, ""});
+        layout.push_back({K::Button, "cmdHit", i, kHitLefts[i], 5520, kCardWidth, 570, "Hit"});
     }
     add(kBoard);
     add(Menus());
-    return specs;
+    return layout;
 }
 }  // namespace
 
