@@ -2,6 +2,7 @@
 
 #include "games/sumfall/frmSumfall.h"
 #include "games/fivestack/frmFivestack.h"
+#include "games/blackrush/frmBlackrush.h"
 #include "games/spirehold/frmSpirehold.h"
 #include "games/duopick/frmDuopick.h"
 #include "games/treyshift/frmTreyshift.h"
@@ -12,6 +13,7 @@ namespace ch {
 void RegisterGameForms(Runtime& runtime) {
     RegisterSumfall(runtime);
     RegisterFivestack(runtime);
+    RegisterBlackrush(runtime);
     RegisterSpirehold(runtime);
     RegisterDuopick(runtime);
     RegisterTreyshift(runtime);

@@ -120,6 +120,10 @@ std::span<const ControlSpec> OptionsMenuHead() { return kOptionsHead; }
 std::span<const ControlSpec> OptionsMenuTail() { return kOptionsTail; }
 std::span<const ControlSpec> HelpMenu() { return kHelp; }
 
+void PlaceControls(Form& window, std::span<const ControlPlace> places) {
+    for (const ControlPlace& p : places) window.c(p.name).move(p.left, p.top, p.width, p.height);
+}
+
 void PrepareStandingControls(Form& window) {
     for (const char* big : {"lblMessage", "lblScoring"}) {
         if (Control* label = window.find(big)) {
@@ -332,15 +336,6 @@ void ConfirmCloseGameWindow(Form& window, EventArgs& args, bool pausedFirst, con
         return;
     }
     LeaveGameWindow(window, settingsFile, settings);
-}
-
-bool KeepDesignSize(Form& window, int designWidth, int designHeight) {
-    if (window.windowState() == 1) return false;
-    if ((window.width() < designWidth || window.height() < designHeight) && window.windowState() == 0) {
-        window.setSize(designWidth, designHeight);
-        return false;
-    }
-    return true;
 }
 
 void ShowModalPaused(Form& window, const std::string& formName, const char* messageLabel) {

@@ -82,16 +82,19 @@ std::span<const ControlSpec> OptionsMenuHead();   // mnuOptions: mnuView, mnuCle
 std::span<const ControlSpec> OptionsMenuTail();   // mnuTime, mnuDeck with mnuPalm, mnuMagic, mnuNight, mnuHot
 std::span<const ControlSpec> HelpMenu();          // mnuHelp: mnuRules, mnuAbout
 
-// Where a game puts a control of the standing set when its board needs
-// another place for it.
+// A game's own place for a standing control, and the move of each named
+// control to its place.
 struct ControlPlace {
     const char* name;
     int left, top, width, height;
 };
+void PlaceControls(Form& window, std::span<const ControlPlace> places);
 
 // The state of the standing controls at load: fonts of the big labels,
 // lblMessage and lblScoring hidden, cmdPause disabled, the play captions and
 // tool tips, the fixed captions of the boxes ("Time:", "Score:", "Round:").
+// A window that shows its score or round in labels of its own (Blackrush's
+// lblTotalScore) leaves lblCurrentScore and lblCurrentRound out.
 void PrepareStandingControls(Form& window);
 // A timer's interval and whether it runs.
 void SetTimer(Form& window, const std::string& name, int interval, bool enabled);
@@ -188,10 +191,6 @@ void LeaveGameWindow(Form& window, const std::string& settingsFile, const Settin
 // leaves the window (LeaveGameWindow).
 void ConfirmCloseGameWindow(Form& window, EventArgs& args, bool pausedFirst, const std::function<void()>& pauseHandler,
                             const std::string& settingsFile, const SettingsLayout& settings);
-// The first step of Form_Resize: false when the window is minimised, or when
-// it was smaller than its design size and has been set back to it (a further
-// resize follows); true when the board is to be placed.
-bool KeepDesignSize(Form& window, int designWidth, int designHeight);
 
 // Around a modal window (rules, about, Hall of Fame): a running game that is
 // neither paused nor over (by `messageLabel`'s caption) is paused by a click

@@ -358,7 +358,7 @@ void frmFivestack::Form_Resize() {
             if (PlayMusic) StartMusic();
         }
     }
-    if (KeepDesignSize(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
 }
 
 void frmFivestack::PlaceBoard() {
