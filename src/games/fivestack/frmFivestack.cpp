@@ -32,17 +32,17 @@ const TimeEntry kTimeEntries[] = {
     {"mnu75", 75, "&75 seconds"},
 };
 
-// Fivestack's own places for the standing controls: the time, score and
-// round boxes stand in the top band beside the deck, the buttons at the
-// right edge above the Card Total.
+// Fivestack's own places for the standing controls: the Time Bonus box with
+// the dial under it, the score and round stand in the top band beside the
+// deck, the buttons at the right edge above the Card Total.
 const ControlPlace kStandingPlaces[] = {
     {"cmdPlay", 8220, 120, 1095, 375},
     {"cmdPause", 8220, 555, 1095, 375},
-    {"lblTime", 4680, 60, 1095, 255},
-    {"TimerRectangle", 4680, 330, 1095, 1095},
-    {"Surface", 4725, 375, 1005, 1005},
-    {"TimerBevelSide", 5790, 345, 0, 1095},
-    {"TimerBevelBottom", 4695, 1440, 1095, 0},
+    {"lblTime", 4560, 60, 1200, 255},
+    {"TimerRectangle", 4560, 330, 1200, 450},
+    {"TimerBevelSide", 5775, 345, 0, 450},
+    {"TimerBevelBottom", 4575, 795, 1200, 0},
+    {"Surface", 4740, 885, 840, 840},
     {"lblScore", 6000, 60, 2055, 255},
     {"ScoreRectangle", 6000, 330, 2055, 450},
     {"ScoreBevelSide", 8070, 345, 0, 450},
@@ -63,10 +63,10 @@ constexpr int kSoftLefts[kColumns] = {930, 2385, 3810, 5265, 6720};
 constexpr int kHitLefts[kColumns] = {405, 1860, 3315, 4770, 6225};
 
 const ControlSpec kBoard[] = {
-    {K::Image, "PlayCardPicture", -1, 420, 120, kCardWidth, kCardHeight},
+    {K::Image, "PlayCardPicture", -1, 420, 120, 1065, kCardHeight},
     {K::Image, "NextCardPicture", -1, 1875, 105, kCardWidth, kCardHeight},
     {K::Button, "cmdPass", -1, 3330, 150, 1065, 510, "&Pass"},
-    {K::Label, "lblTimeBonus", -1, 4905, 735, 660, 300, ""},
+    {K::Label, "lblTimeBonus", -1, 4800, 390, 660, 300, ""},
     {K::Label, "lblTotalScore", -1, 6045, 390, 1965, 330, "0"},
     {K::Button, "cmdQuit", -1, 8220, 990, 1095, 375, "&Quit"},
     {K::Label, "lblCurrentRoundScore", -1, 7590, 1470, 1710, 255, "Card Total"},

@@ -421,10 +421,11 @@ void frmFivestack::ShowScoringLabel(bool show) {
     for (const char* name : {"ScoringLabel", "ScoringLabelRoundTotal", "ScoringLabelInfo"}) c(name).setVisible(show);
 }
 
-// The Time Bonus stands on the dial.
+// The Time Bonus stands in its box over the dial.
 void frmFivestack::CenterTimeBonus() {
     Control& bonus = c("lblTimeBonus");
     const Control& box = c("TimerRectangle");
+    FitLabel(bonus);
     bonus.setLeft(box.left() + box.width() / 2 - CLng(bonus.width() / 1.3));
     bonus.setTop(box.top() + box.height() / 2 - CLng(bonus.height() / 1.3));
 }
