@@ -161,6 +161,13 @@ void BeginFormLoad(Form& window, int16_t timeLimit, int16_t deckDesign) {
     CountDownScore = true;
 }
 
+void SetWindowTimers(Form& window, bool timer2On, int timer4Interval, bool timer4On) {
+    SetTimer(window, "Timer1", 1000, false);
+    SetTimer(window, "Timer2", 200, timer2On);
+    SetTimer(window, "Timer3", 60000, true);
+    SetTimer(window, "Timer4", timer4Interval, timer4On);
+}
+
 void CentreOnScreen(Form& window) {
     Platform& platform = window.runtime().platform();
     window.move((platform.screenWidth() - window.width()) / 2, (platform.screenHeight() - window.height()) / 2);

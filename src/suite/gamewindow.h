@@ -93,6 +93,10 @@ struct ControlPlace {
 void PrepareStandingControls(Form& window);
 // A timer's interval and whether it runs.
 void SetTimer(Form& window, const std::string& name, int interval, bool enabled);
+// The four timers of a game window at design time: Timer1 the round clock
+// (1000 ms, off), Timer2 the dial blink (200 ms), Timer3 the time of day
+// (60000 ms, on), Timer4 the splash animation.
+void SetWindowTimers(Form& window, bool timer2On, int timer4Interval, bool timer4On);
 
 // ---- Form_Load ------------------------------------------------------------
 // The first steps of Form_Load: the hourglass, Timer4 on, Timer1 off, and the

@@ -154,10 +154,7 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
     setSize(kDesignWidth, kDesignHeight);
     add(Layout());
     PrepareStandingControls(*this);
-    SetTimer(*this, "Timer1", 1000, false);
-    SetTimer(*this, "Timer2", 200, false);
-    SetTimer(*this, "Timer3", 60000, true);
-    SetTimer(*this, "Timer4", 200, false);
+    SetWindowTimers(*this, false, 200, false);
 
     // The board stays hidden until the first Play.
     for (int i = 0; i < kColumns; ++i) {
