@@ -227,6 +227,13 @@ void SplashAnimation::step(Form& window, SplashFace face) {
     }
 }
 
+void BindStandingTimers(Form& window, SplashAnimation& splash, SplashFace face) {
+    Form* w = &window;
+    window.on("Timer2", Ev::Timer, [w](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *w); });
+    window.on("Timer3", Ev::Timer, [w](EventArgs&) { ShowTimeOfDay(*w); });
+    window.on("Timer4", Ev::Timer, [w, &splash, face](EventArgs&) { splash.step(*w, face); });
+}
+
 void ShowSplash(Form& window, bool visible) {
     window.c("frmSplash").setVisible(visible);
     window.c("Timer4").setEnabled(visible);

@@ -132,6 +132,9 @@ struct SplashAnimation {
     bool SplashShowBack = false;
     void step(Form& window, SplashFace face);
 };
+// Binds the handlers of Timer2 (the dial's blink at DialSeconds), Timer3 (the
+// time of day) and Timer4 (a step of `splash`, which the window owns).
+void BindStandingTimers(Form& window, SplashAnimation& splash, SplashFace face);
 // frmSplash and Timer4 on or off together.
 void ShowSplash(Form& window, bool visible);
 

@@ -215,9 +215,7 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
     on("cmdPass", Ev::Click, [this](EventArgs&) { cmdPass_Click(); });
     on("cmdGiveUp", Ev::Click, [this](EventArgs&) { cmdGiveUp_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    on("Timer2", Ev::Timer, [this](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *this); });
-    on("Timer3", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
-    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
+    BindStandingTimers(*this, Splash, SplashFace::RandomFace);
     on("lblCurrentTotal", Ev::Change, [this](EventArgs&) { lblCurrentTotal_Change(); });
     on("lblTotalScore", Ev::Change, [this](EventArgs&) { lblTotalScore_Change(); });
     on("lblHighScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblHighScore", "ScoreRectangle"); });
