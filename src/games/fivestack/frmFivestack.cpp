@@ -49,7 +49,7 @@ const ControlPlace kStandingPlaces[] = {
     {"ScoreBevelBottom", 6015, 795, 2055, 0},
     {"lblRound", 6000, 900, 2055, 255},
     {"lblHighScore", 6000, 1170, 2160, 255},
-    {"frmSplash", 1080, 1500, 5520, 4440},
+    {"frmSplash", 1080, 1800, 5520, 4440},
 };
 // Standing controls this window does without: its messages stand in
 // ScoringLabel, its score in lblTotalScore, its round in lblRound alone.
