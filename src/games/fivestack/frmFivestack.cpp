@@ -38,6 +38,7 @@ const TimeEntry kTimeEntries[] = {
 const ControlPlace kStandingPlaces[] = {
     {"cmdPlay", 8220, 120, 1095, 375},
     {"cmdPause", 8220, 555, 1095, 375},
+    {"cmdQuit", 8220, 990, 1095, 375},
     {"lblTime", 4560, 60, 1200, 255},
     {"TimerRectangle", 4560, 330, 1200, 450},
     {"TimerBevelSide", 5775, 345, 0, 450},
@@ -68,7 +69,6 @@ const ControlSpec kBoard[] = {
     {K::Button, "cmdPass", -1, 3330, 150, 1065, 510, "&Pass"},
     {K::Label, "lblTimeBonus", -1, 4800, 390, 660, 300, ""},
     {K::Label, "lblTotalScore", -1, 6045, 390, 1965, 330, "0"},
-    {K::Button, "cmdQuit", -1, 8220, 990, 1095, 375, "&Quit"},
     {K::Label, "lblCurrentRoundScore", -1, 7590, 1470, 1710, 255, "Card Total"},
     {K::Label, "lblCurrentTotal", -1, 8265, 1815, 750, 360, "0"},
     {K::Frame, "frmScore", -1, 7590, 2280, 1710, 3240, "Card Total Value"},
@@ -103,7 +103,9 @@ bool Unused(const char* name) {
 const std::vector<ControlSpec>& Layout() {
     static const std::vector<ControlSpec> specs = [] {
         std::vector<ControlSpec> all;
-        for (ControlSpec s : StandingControls()) {
+        std::vector<ControlSpec> standing(StandingControls().begin(), StandingControls().end());
+        standing.insert(standing.end(), QuitButton().begin(), QuitButton().end());
+        for (ControlSpec s : standing) {
             if (Unused(s.name)) continue;
             for (const ControlPlace& p : kStandingPlaces)
                 if (std::string(s.name) == p.name) {
