@@ -84,8 +84,8 @@ void frmFivestack::Play() {
     setMousePointer(0);
 }
 
-// The game is paused behind the question; a confirmed end writes no score to
-// the table.
+// The game is paused behind the question; a confirmed end puts the board
+// away and writes no score to the table.
 void frmFivestack::EndGame(bool fromMenu) {
     if (PlayMusic) StopMusic();
     cmdPause_Click();
@@ -97,6 +97,9 @@ void frmFivestack::EndGame(bool fromMenu) {
     QuitRequested = true;
     GameInProgress = false;
     cmdPause_Click();
+    // The board goes as at the end of any round, so that the splash panel
+    // comes back on an empty window.
+    ShowCards(false);
     Reset();
     int16_t over = 5;
     EndRound(over);
