@@ -173,15 +173,6 @@ void SetGameTimers(Form& window, const GameTimers& timers) {
     SetTimer(window, "Timer4", timers.splashInterval, timers.splashOn);
 }
 
-void FinishLoading(Form& window, const std::string& tableName, const std::string& defaultScore) {
-    GameStartTime = WallClock();
-    ShowSplashCaptions(window);
-    CentreOnScreen(window);
-    InitTimeDial(window);
-    ShowHighScore(tableName, window, defaultScore);
-    window.setMousePointer(0);
-}
-
 void CentreOnScreen(Form& window) {
     Platform& platform = window.runtime().platform();
     window.move((platform.screenWidth() - window.width()) / 2, (platform.screenHeight() - window.height()) / 2);
@@ -239,6 +230,13 @@ void SplashAnimation::step(Form& window, SplashFace face) {
             SplashShowBack = !SplashShowBack;
         }
     }
+}
+
+void BindStandingTimers(Form& window, SplashAnimation& splash, SplashFace face) {
+    Form* w = &window;
+    window.on("Timer2", Ev::Timer, [w](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *w); });
+    window.on("Timer3", Ev::Timer, [w](EventArgs&) { ShowTimeOfDay(*w); });
+    window.on("Timer4", Ev::Timer, [w, &splash, face](EventArgs&) { splash.step(*w, face); });
 }
 
 void ShowSplash(Form& window, bool visible) {
@@ -414,14 +412,7 @@ void SetPlayMusic(Form& window, bool on, bool gameRunning) {
 }
 
 void BeginFormLoad(Form& window, int timeLimit, const char* timeMenu) {
-    window.setMousePointer(11);
-    window.c("Timer4").setEnabled(true);
-    window.c("Timer1").setEnabled(false);
-    TimeLimit = static_cast<int16_t>(timeLimit);
-    PlaySounds = true;
-    PlayMusic = false;
-    DeckDesign = 1;
-    CountDownScore = true;
+    BeginFormLoad(window, static_cast<int16_t>(timeLimit));
     window.c(timeMenu).setChecked(true);
     if (Control* sounds = window.find("mnuSounds")) sounds->setChecked(true);
 }
@@ -436,10 +427,8 @@ void CompleteFormLoad(Form& window, const std::string& tableName, const std::str
 }
 
 void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face) {
+    BindStandingTimers(window, splash, face);
     Form* w = &window;
-    window.on("Timer2", Ev::Timer, [w](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *w); });
-    window.on("Timer3", Ev::Timer, [w](EventArgs&) { ShowTimeOfDay(*w); });
-    window.on("Timer4", Ev::Timer, [w, &splash, face](EventArgs&) { splash.step(*w, face); });
     for (const char* exit : {"cmdExit", "cmdQuit", "mnuExit"})
         if (window.has(exit)) window.on(exit, Ev::Click, [w](EventArgs&) { w->runtime().unload(*w); });
     window.on("mnuSounds", Ev::Click, [w](EventArgs&) { SetPlaySounds(*w, !PlaySounds); });

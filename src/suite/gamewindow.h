@@ -121,10 +121,6 @@ void ShowWelcome(Form& window);
 // lblCompanyProduct "Quillmark Presents", lblVersion "Version 4.0",
 // lblProductName AppTitle, lblPlatform "Windows 95/98/NT"; frmSplash shown.
 void ShowSplashCaptions(Form& window);
-// The last steps of Form_Load, in their order: GameStartTime = now, the
-// splash captions, the window centred on the screen, the dial initialised,
-// the table's leader shown, the normal pointer.
-void FinishLoading(Form& window, const std::string& tableName, const std::string& defaultScore);
 // The wall clock as "h:mm AMPM" ("3:07 PM").
 std::string TimeOfDayText(int64_t wallClockMs);
 // Panel 3 of StatusBar1 = the time of day (Timer3, or Timer6 in Blackrush).
@@ -146,6 +142,9 @@ struct SplashAnimation {
     bool SplashShowBack = false;
     void step(Form& window, SplashFace face);
 };
+// Binds the handlers of Timer2 (the dial's blink at DialSeconds), Timer3 (the
+// time of day) and Timer4 (a step of `splash`, which the window owns).
+void BindStandingTimers(Form& window, SplashAnimation& splash, SplashFace face);
 // frmSplash and Timer4 on or off together.
 void ShowSplash(Form& window, bool visible);
 

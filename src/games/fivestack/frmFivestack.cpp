@@ -32,24 +32,25 @@ const TimeEntry kTimeEntries[] = {
     {"mnu75", 75, "&75 seconds"},
 };
 
-// Fivestack's own places for the standing controls: the time, score and
-// round boxes stand in the top band beside the deck, the buttons at the
-// right edge above the Card Total.
+// Fivestack's own places for the standing controls: the Time Bonus box with
+// the dial under it, the score and round stand in the top band beside the
+// deck, the buttons at the right edge above the Card Total.
 const ControlPlace kStandingPlaces[] = {
     {"cmdPlay", 8220, 120, 1095, 375},
     {"cmdPause", 8220, 555, 1095, 375},
-    {"lblTime", 4680, 60, 1095, 255},
-    {"TimerRectangle", 4680, 330, 1095, 1095},
-    {"Surface", 4725, 375, 1005, 1005},
-    {"TimerBevelSide", 5790, 345, 0, 1095},
-    {"TimerBevelBottom", 4695, 1440, 1095, 0},
+    {"cmdQuit", 8220, 990, 1095, 375},
+    {"lblTime", 4560, 60, 1200, 255},
+    {"TimerRectangle", 4560, 330, 1200, 450},
+    {"TimerBevelSide", 5775, 345, 0, 450},
+    {"TimerBevelBottom", 4575, 795, 1200, 0},
+    {"Surface", 4740, 885, 840, 840},
     {"lblScore", 6000, 60, 2055, 255},
     {"ScoreRectangle", 6000, 330, 2055, 450},
     {"ScoreBevelSide", 8070, 345, 0, 450},
     {"ScoreBevelBottom", 6015, 795, 2055, 0},
     {"lblRound", 6000, 900, 2055, 255},
     {"lblHighScore", 6000, 1170, 2160, 255},
-    {"frmSplash", 1080, 1500, 5520, 4440},
+    {"frmSplash", 1080, 1800, 5520, 4440},
 };
 // Standing controls this window does without: its messages stand in
 // ScoringLabel, its score in lblTotalScore, its round in lblRound alone.
@@ -63,12 +64,11 @@ constexpr int kSoftLefts[kColumns] = {930, 2385, 3810, 5265, 6720};
 constexpr int kHitLefts[kColumns] = {405, 1860, 3315, 4770, 6225};
 
 const ControlSpec kBoard[] = {
-    {K::Image, "PlayCardPicture", -1, 420, 120, kCardWidth, kCardHeight},
+    {K::Image, "PlayCardPicture", -1, 420, 120, 1065, kCardHeight},
     {K::Image, "NextCardPicture", -1, 1875, 105, kCardWidth, kCardHeight},
     {K::Button, "cmdPass", -1, 3330, 150, 1065, 510, "&Pass"},
-    {K::Label, "lblTimeBonus", -1, 4905, 735, 660, 300, ""},
+    {K::Label, "lblTimeBonus", -1, 4800, 390, 660, 300, ""},
     {K::Label, "lblTotalScore", -1, 6045, 390, 1965, 330, "0"},
-    {K::Button, "cmdQuit", -1, 8220, 990, 1095, 375, "&Quit"},
     {K::Label, "lblCurrentRoundScore", -1, 7590, 1470, 1710, 255, "Card Total"},
     {K::Label, "lblCurrentTotal", -1, 8265, 1815, 750, 360, "0"},
     {K::Frame, "frmScore", -1, 7590, 2280, 1710, 3240, "Card Total Value"},
@@ -103,7 +103,9 @@ bool Unused(const char* name) {
 const std::vector<ControlSpec>& Layout() {
     static const std::vector<ControlSpec> specs = [] {
         std::vector<ControlSpec> all;
-        for (ControlSpec s : StandingControls()) {
+        std::vector<ControlSpec> standing(StandingControls().begin(), StandingControls().end());
+        standing.insert(standing.end(), QuitButton().begin(), QuitButton().end());
+        for (ControlSpec s : standing) {
             if (Unused(s.name)) continue;
             for (const ControlPlace& p : kStandingPlaces)
                 if (std::string(s.name) == p.name) {
@@ -154,10 +156,7 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
     setSize(kDesignWidth, kDesignHeight);
     add(Layout());
     PrepareStandingControls(*this);
-    SetTimer(*this, "Timer1", 1000, false);
-    SetTimer(*this, "Timer2", 200, false);
-    SetTimer(*this, "Timer3", 60000, true);
-    SetTimer(*this, "Timer4", 200, false);
+    SetGameTimers(*this);
 
     // The board stays hidden until the first Play.
     for (int i = 0; i < kColumns; ++i) {
@@ -218,9 +217,7 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
     on("cmdPass", Ev::Click, [this](EventArgs&) { cmdPass_Click(); });
     on("cmdGiveUp", Ev::Click, [this](EventArgs&) { cmdGiveUp_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    on("Timer2", Ev::Timer, [this](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *this); });
-    on("Timer3", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
-    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
+    BindStandingTimers(*this, Splash, SplashFace::RandomFace);
     on("lblCurrentTotal", Ev::Change, [this](EventArgs&) { lblCurrentTotal_Change(); });
     on("lblTotalScore", Ev::Change, [this](EventArgs&) { lblTotalScore_Change(); });
     on("lblHighScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblHighScore", "ScoreRectangle"); });

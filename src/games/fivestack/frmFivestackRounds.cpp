@@ -84,8 +84,8 @@ void frmFivestack::Play() {
     setMousePointer(0);
 }
 
-// The game is paused behind the question; a confirmed end writes no score to
-// the table.
+// The game is paused behind the question; a confirmed end puts the board
+// away and writes no score to the table.
 void frmFivestack::EndGame(bool fromMenu) {
     if (PlayMusic) StopMusic();
     cmdPause_Click();
@@ -97,6 +97,9 @@ void frmFivestack::EndGame(bool fromMenu) {
     QuitRequested = true;
     GameInProgress = false;
     cmdPause_Click();
+    // The board goes as at the end of any round, so that the splash panel
+    // comes back on an empty window.
+    ShowCards(false);
     Reset();
     int16_t over = 5;
     EndRound(over);
@@ -417,10 +420,11 @@ void frmFivestack::ShowScoringLabel(bool show) {
     for (const char* name : {"ScoringLabel", "ScoringLabelRoundTotal", "ScoringLabelInfo"}) c(name).setVisible(show);
 }
 
-// The Time Bonus stands on the dial.
+// The Time Bonus stands in its box over the dial.
 void frmFivestack::CenterTimeBonus() {
     Control& bonus = c("lblTimeBonus");
     const Control& box = c("TimerRectangle");
+    FitLabelToText(bonus);
     bonus.setLeft(box.left() + box.width() / 2 - CLng(bonus.width() / 1.3));
     bonus.setTop(box.top() + box.height() / 2 - CLng(bonus.height() / 1.3));
 }

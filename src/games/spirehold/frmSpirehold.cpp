@@ -255,7 +255,7 @@ void frmSpirehold::Form_Load() {
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
     CheckForCustom();
-    FinishLoading(*this, kTable, kDefaultScore);
+    CompleteFormLoad(*this, kTable, kDefaultScore);
 }
 
 void frmSpirehold::Form_QueryUnload(EventArgs& args) {
