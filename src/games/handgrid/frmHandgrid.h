@@ -94,5 +94,7 @@ private:
 };
 
 void RegisterHandgrid(Runtime& runtime);
+// The rules window's text for Handgrid (rulestext.cpp).
+std::string HandgridRules();
 
 }  // namespace ch
