@@ -11,6 +11,7 @@
 #include "suite/frmRules.h"
 #include "suite/highscores.h"
 #include "suite/sound.h"
+#include "suite/windowsteps.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -191,7 +192,7 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
     });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmHandgridCustom", true); });
     on("mnuView", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmHighScores"); });
-    on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
+    on("mnuClear", Ev::Click, [this](EventArgs&) { ClearHighScores(*this, kTable, kDefaultScore); });
     on("mnuRules", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmRules"); });
     on("mnuAbout", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmAbout"); });
 
@@ -309,12 +310,7 @@ void frmHandgrid::ShowBonusGoal() {
 // The cards keep their size: a larger window moves the whole board to its
 // middle, the buttons to its right edge and the status bar to its foot.
 void frmHandgrid::Form_Resize() {
-    if (windowState() == 1) return;
-    if ((width() < kDesignWidth || height() < kDesignHeight) && windowState() == 0) {
-        setSize(kDesignWidth, kDesignHeight);
-        return;
-    }
-    PlaceBoard();
+    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
 }
 
 void frmHandgrid::PlaceBoard() {
@@ -356,10 +352,5 @@ void frmHandgrid::mnuDeck_Click(int design) {
     DeckDesign = static_cast<int16_t>(design);
 }
 
-void frmHandgrid::mnuClear_Click() {
-    if (!AskYesNo(kClearScoresQuestion)) return;
-    CreateHighScoreFile(kTable, *this, kDefaultScore);
-    ShowHighScore(kTable, *this, kDefaultScore);
-}
 
 }  // namespace ch

@@ -44,7 +44,6 @@ private:
     void PlaceBoard();
     void mnuTime_Click(const char* menu);
     void mnuDeck_Click(int design);
-    void mnuClear_Click();
     SettingsLayout SettingsSections();
 
     // frmHandgridBoard.cpp: the grid.
