@@ -19,7 +19,7 @@ using namespace handgrid;
 namespace {
 using K = ControlKind;
 
-constexpr int kRowHeight = 390;
+constexpr int kRowHeight = 375;
 constexpr int kFirstRow = 300;
 
 std::vector<ControlSpec> Layout() {
