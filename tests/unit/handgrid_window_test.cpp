@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -45,6 +46,7 @@ struct GameRun {
     std::string out;
     int failures = 0;
     std::vector<std::string> seen;
+    std::string settings;  // Handgrid.Ini as the run left it
 };
 
 GameRun RunHandgrid(const std::string& script, const std::string& settings = "") {
@@ -74,6 +76,8 @@ GameRun RunHandgrid(const std::string& script, const std::string& settings = "")
         run.out = out.str();
         run.seen = platform.seen;
     }
+    std::ifstream file(fs::path(pattern) / "Handgrid.Ini", std::ios::binary);
+    run.settings.assign(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
     fs::remove_all(pattern);
     return run;
 }
@@ -171,4 +175,20 @@ TEST(HandgridWindow, ADamagedSettingsFileChangesNothingItCannotRead) {
         "expect frmHandgrid.HandScores(1) 50\n",
         "[Over Writes]\r\n99999\r\n[Bonus Score]\r\n99999999999\r\n[Time]\r\n7\r\n[Pair Score]\r\n");
     EXPECT_EQ(run.failures, 0) << run.out;
+}
+
+TEST(HandgridWindow, TheSettingsFileHoldsEveryValueInItsOrder) {
+    const GameRun run = RunHandgrid(
+        "click frmHandgrid.mnu45\nclick frmHandgrid.mnuNight\nclick frmHandgrid.mnuCustom\n"
+        "type frmHandgridCustom.txtStraightScore 91\ntype frmHandgridCustom.txtOverWrites 5\n"
+        "click frmHandgridCustom.cmdOK\nanswer Yes\nclose frmHandgrid\n");
+    EXPECT_EQ(run.failures, 0) << run.out;
+    EXPECT_EQ(run.settings,
+              "[Time]\r\n45\r\n\r\n[Play Sounds]\r\nTrue\r\n\r\n[Play Music]\r\nFalse\r\n\r\n"
+              "[Count Down Score]\r\nTrue\r\n\r\n[Deck]\r\n3\r\n\r\n[Time Bonus]\r\n1\r\n\r\n"
+              "[Bonus Score]\r\n100000\r\n\r\n[Pair Score]\r\n50\r\n\r\n[Two Pair Score]\r\n70\r\n\r\n"
+              "[Trips Score]\r\n80\r\n\r\n[Flush Score]\r\n100\r\n\r\n[Full House Score]\r\n200\r\n\r\n"
+              "[Straight Score]\r\n91\r\n\r\n[Four Score]\r\n300\r\n\r\n[Straight Flush Score]\r\n400\r\n\r\n"
+              "[Royal Flush Score]\r\n500\r\n\r\n[Over Writes]\r\n5\r\n\r\n[State]\r\n0\r\n\r\n"
+              "[Width]\r\n9570\r\n\r\n[Height]\r\n7200\r\n\r\n");
 }

@@ -316,7 +316,10 @@ void frmHandgrid::Form_Resize() {
 void frmHandgrid::PlaceBoard() {
     const int dx = (width() - kDesignWidth) / 2;
     const int dy = (height() - kDesignHeight) / 2;
-    const auto at = [&](Control& control, int left, int top) { control.setLeft(left + dx), control.setTop(top + dy); };
+    const auto at = [&](Control& control, int left, int top) {
+        control.setLeft(left + dx);
+        control.setTop(top + dy);
+    };
     for (int i = 0; i < kCells; ++i) at(c("PlayCards", i), kColumnLefts[i % 5], kRowTops[i / 5]);
     for (int n = 1; n <= 5; ++n) {
         at(c("lblRow", n), 5895, kRowLabelTops[n - 1]);
