@@ -1,7 +1,9 @@
 #include "suite/windowsteps.h"
 
 #include "suite/gamewindow.h"
+#include "suite/common.h"
 #include "suite/highscores.h"
+#include "suite/sound.h"
 #include "window/form.h"
 
 namespace ch {
@@ -13,6 +15,18 @@ bool ResizeToPlace(Form& window, int designWidth, int designHeight) {
         return false;
     }
     return true;
+}
+
+void PauseOrResume(Form& window, const std::function<void(bool)>& showCards) {
+    if (window.c("cmdPause").caption() == kPauseCaption) {
+        SetPausedControls(window);
+        showCards(false);
+        if (PlayMusic) StopMusic();
+    } else {
+        SetResumedControls(window);
+        showCards(true);
+        if (PlayMusic && GameInProgress) StartMusic();
+    }
 }
 
 void ClearHighScores(Form& window, const std::string& tableName, const std::string& defaultScore) {

@@ -1,7 +1,9 @@
 // Small steps that every game window takes the same way, kept here once:
-// the size check at the start of Form_Resize and the Clear High Scores entry.
+// the size check at the start of Form_Resize, the pause button and the Clear
+// High Scores entry.
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace ch {
@@ -12,6 +14,12 @@ class Form;
 // window smaller than its design size is set back to it (the resize that
 // follows places the board). True when the board is to be placed now.
 bool ResizeToPlace(Form& window, int designWidth, int designHeight);
+
+// cmdPause as most games have it: "Pau&se" pauses (the shared controls, the
+// cards hidden through the game's ShowCards, the music stopped), "&Resume"
+// resumes (the cards shown again, the music restarted from its beginning if
+// a game is running).
+void PauseOrResume(Form& window, const std::function<void(bool)>& showCards);
 
 // mnuClear: after a Yes to "This will clear all High Scores. Are You Sure?"
 // the table of the current limit gets its ten default lines and the high

@@ -7,6 +7,7 @@
 #include "suite/common.h"
 #include "suite/dial.h"
 #include "suite/sound.h"
+#include "suite/windowsteps.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -92,15 +93,7 @@ void frmHandgrid::EndGameAsked() {
 
 void frmHandgrid::cmdPause_Click() {
     if (TakingScore) return;
-    if (c("cmdPause").caption() == kPauseCaption) {
-        SetPausedControls(*this);
-        ShowCards(false);
-        if (PlayMusic) StopMusic();
-    } else {
-        SetResumedControls(*this);
-        ShowCards(true);
-        if (PlayMusic && GameInProgress) StartMusic();
-    }
+    PauseOrResume(*this, [this](bool show) { ShowCards(show); });
 }
 
 // ---- The clock ----------------------------------------------------------------------------
