@@ -32,12 +32,14 @@
 #include <span>
 #include <string>
 
+#include "suite/labels.h"
 #include "suite/settings.h"
 #include "window/control.h"
 
 namespace ch {
 
 class Form;
+class RuntimeError;
 
 // Captions the game logic tests, exactly as they stand.
 inline constexpr const char* kPlayCaption = "&Play";
@@ -140,10 +142,11 @@ void SetPlayCaptions(Form& window, bool playing, const char* endCaption = kEndGa
 // (shown if GameInProgress), Timer1 off, "&Resume" on cmdPause and mnuPause,
 // cmdExit/cmdQuit, cmdTakeScore, cmdPlay, mnuExit, mnuPlay, mnuTakeScore
 // disabled. The game then hides its cards and stops the music.
-void SetPausedControls(Form& window);
+// A game whose messages stand in another label names it in `messageLabel`.
+void SetPausedControls(Form& window, const char* messageLabel = "lblMessage");
 // The reverse: lblMessage hidden and emptied, Timer1 on, "Pau&se", the
 // controls enabled. The game then shows its cards and restarts the music.
-void SetResumedControls(Form& window);
+void SetResumedControls(Form& window, const char* messageLabel = "lblMessage");
 // A Yes/No question with the question icon and the title AppTitle.
 bool AskYesNo(const std::string& question);
 // The question of closing the window: a game in progress, under five minutes
@@ -158,6 +161,10 @@ void LeaveGameWindow(Form& window, const std::string& settingsFile, const Settin
 // of cmdPause before and resumed by another after, unless it was paused
 // already or is over by then.
 void ShowModalPaused(Form& window, const std::string& formName, const char* messageLabel = "lblMessage");
+// The same pause and resume around any step that holds the window, such as
+// a question: a running game is paused by a click of cmdPause before `step`
+// and resumed by another after it, unless it was paused already or is over.
+void RunPaused(Form& window, const std::function<void()>& step, const char* messageLabel = "lblMessage");
 
 // ---- Menus --------------------------------------------------------------------
 struct TimeEntry {
@@ -192,6 +199,29 @@ void SetPlaySounds(Form& window, bool on);
 // or stops at once.
 void SetPlayMusic(Form& window, bool on, bool gameRunning);
 
+// ---- Shared steps of a game window ------------------------------------------
+// Form_Load's opening: the hourglass, Timer4 on, Timer1 off, and the shared
+// defaults: `timeLimit` with its entry `timeMenu` ticked, sounds on (ticked),
+// music off, back design 1, count-down on.
+void BeginFormLoad(Form& window, int timeLimit, const char* timeMenu);
+// Form_Load's close: GameStartTime, the splash captions, the window centred,
+// the dial prepared, the table's top score shown, the normal pointer.
+void CompleteFormLoad(Form& window, const std::string& tableName, const std::string& defaultScore);
+// The handlers every game window binds alike: Timer2 the dial's blink,
+// Timer3 the time of day, Timer4 the splash ring; cmdExit and mnuExit close
+// the window; mnuSounds and mnuMusic switch; mnuView (where the window has
+// it), mnuRules and mnuAbout open their windows around a pause.
+void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face);
+// Form_Resize's guard: false for a minimised window, and for one below its
+// smallest size, which is set back to it (a further resize follows); true
+// when the board is to be placed.
+bool ResizeToPlace(Form& window, int smallestWidth, int smallestHeight);
+// The sections every settings file has, applied through the menu handlers.
+SettingsSection PlayMusicSection(Form& window);
+SettingsSection PlaySoundsSection(Form& window);
+SettingsSection TimeSection(Form& window, std::span<const TimeEntry> entries);
+SettingsSection DeckSection(Form& window, const char* const (&menus)[4]);
+
 // ---- Window size in the settings file -------------------------------------
 // "[State]": 0 normal, 1 minimised, 2 maximised; other values change nothing.
 void ApplyWindowState(Form& window, const std::string& value);
@@ -206,6 +236,14 @@ std::string WindowHeightText(const Form& window, int designHeight);
 // The three sections of the window's size in their order, "[State]" first so
 // that a maximised window ignores the size read after it.
 SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeight);
+
+// ---- Errors ----------------------------------------------------------------------
+// (Labels centred in their boxes: CentreLabelIn in labels.h.)
+// A run-time error no handler of the game takes ("Overflow" of a count-up
+// past its 16-bit range): the platform's message "Run-time error 'n':", two
+// line breaks and the description, with the critical icon and the title
+// AppTitle. The game then ends its game in order; the program goes on.
+void ShowRunTimeError(const RuntimeError& error);
 
 // ---- End of a game ------------------------------------------------------------
 struct FinishGameSteps {

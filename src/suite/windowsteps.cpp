@@ -1,3 +1,4 @@
+// The steps every game window takes alike: the pause button, Clear High Scores.
 #include "suite/windowsteps.h"
 
 #include "suite/gamewindow.h"
@@ -7,15 +8,6 @@
 #include "window/form.h"
 
 namespace ch {
-
-bool ResizeToPlace(Form& window, int designWidth, int designHeight) {
-    if (window.windowState() == 1) return false;
-    if ((window.width() < designWidth || window.height() < designHeight) && window.windowState() == 0) {
-        window.setSize(designWidth, designHeight);
-        return false;
-    }
-    return true;
-}
 
 void PauseOrResume(Form& window, const std::function<void(bool)>& showCards) {
     if (window.c("cmdPause").caption() == kPauseCaption) {

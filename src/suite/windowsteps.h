@@ -1,6 +1,5 @@
 // Small steps that every game window takes the same way, kept here once:
-// the size check at the start of Form_Resize, the pause button and the Clear
-// High Scores entry.
+// the pause button and the Clear High Scores entry.
 #pragma once
 
 #include <functional>
@@ -9,11 +8,6 @@
 namespace ch {
 
 class Form;
-
-// The first steps of Form_Resize: nothing to place while minimised; a normal
-// window smaller than its design size is set back to it (the resize that
-// follows places the board). True when the board is to be placed now.
-bool ResizeToPlace(Form& window, int designWidth, int designHeight);
 
 // cmdPause as most games have it: "Pau&se" pauses (the shared controls, the
 // cards hidden through the game's ShowCards, the music stopped), "&Resume"

@@ -1,0 +1,377 @@
+// The Treyshift window itself: its layout and menus, the constructor that
+// wires the events, loading, closing, resizing, the settings file and the
+// menu handlers. The board is in frmTreyshiftBoard.cpp, the rounds in
+// frmTreyshiftRounds.cpp.
+#include "games/treyshift/frmTreyshift.h"
+
+#include <memory>
+#include <vector>
+
+#include "games/treyshift/frmTreyshiftCustomScoring.h"
+#include "suite/cards.h"
+#include "suite/common.h"
+#include "suite/dial.h"
+#include "suite/frmRules.h"
+#include "suite/highscores.h"
+#include "window/basic.h"
+#include "window/runtime.h"
+
+namespace ch {
+
+using namespace treyshift;
+
+namespace {
+using K = ControlKind;
+
+const char* const kTable = "TreyshiftHiScores";
+// The table shown at load and by the clear command; the time limit entries
+// and the end of a game pass their own.
+const char* const kTableDefault = "50000";
+const char* const kRoundsDefault = "30000";
+const char* const kSettingsFile = "\\Treyshift.Ini";
+constexpr int kDesignWidth = 9540;
+constexpr int kDesignHeight = 7305;
+constexpr int kCardWidth = 1035;
+constexpr int kCardHeight = 1455;
+
+const TimeEntry kTimeEntries[] = {
+    {"mnu60", 60, "&60 seconds"},   {"mnu75", 75, "&75 seconds"},   {"mnu90", 90, "&90 seconds"},
+    {"mnu105", 105, "&105 seconds"}, {"mnu120", 120, "1&20 seconds (default)"}, {"mnu135", 135, "1&35 seconds"},
+    {"mnu150", 150, "1&50 seconds"}, {"mnu180", 180, "1&80 seconds"},
+};
+
+const int kColumnLeft[4] = {2040, 3480, 4920, 6360};
+const int kRowTop[3] = {2160, 2520, 2880};
+const int kTempLeft[3] = {2880, 4200, 5520};
+const int kUpLeft[3] = {3720, 4080, 4440};
+
+// The boxes of this game stand in the right column under the score box.
+const ControlSpec kCounters[] = {
+    {K::Label, "lblTrips", -1, 8220, 4620, 1095, 255, "Trips:"},
+    {K::Shape, "TripsRectangle", -1, 8220, 4890, 1095, 375},
+    {K::Label, "lblScoreTrips", -1, 8265, 4950, 1005, 255, "0"},
+    {K::Line, "TripsBevelSide", -1, 9330, 4905, 0, 375},
+    {K::Line, "TripsBevelBottom", -1, 8235, 5280, 1095, 0},
+    {K::Label, "lblRuns", -1, 8220, 5400, 1095, 255, "Runs:"},
+    {K::Shape, "RunRectangle", -1, 8220, 5670, 1095, 375},
+    {K::Label, "lblScoreRuns", -1, 8265, 5730, 1005, 255, "0"},
+    {K::Line, "RunBevelSide", -1, 9330, 5685, 0, 375},
+    {K::Line, "RunBevelBottom", -1, 8235, 6060, 1095, 0},
+};
+
+const ControlSpec kBoardLabels[] = {
+    {K::Shape, "FieldRect", -1, 1800, 2040, 5895, 2415},
+    {K::Label, "lblFieldCards", -1, 3847, 1770, 1800, 255, "   Playing Field   "},
+    {K::Label, "lblTemp", -1, 1140, 840, 1620, 255, "Temporary Storage"},
+    {K::Image, "CardStackPicture", -1, 2160, 4680, kCardWidth, kCardHeight},
+    {K::Label, "lblCardCount", -1, 5640, 4800, 2400, 255, "Cards remaining: "},
+    {K::Shape, "ScoringLabelOutline", -1, 2040, 2520, 5415, 1455},
+    {K::Label, "lblFlush", -1, 0, 0, 1000, 255, "Flush!"},
+};
+
+// The controls a resize moves with the right edge, and those it keeps
+// centred with the board.
+const char* const kRightColumn[] = {
+    "cmdPlay", "cmdTakeScore", "cmdPause", "cmdQuit", "lblTime", "TimerRectangle", "Surface", "TimerBevelSide",
+    "TimerBevelBottom", "lblScore", "ScoreRectangle", "lblCurrentScore", "ScoreBevelSide", "ScoreBevelBottom",
+    "lblRound", "lblTrips", "TripsRectangle", "lblScoreTrips", "TripsBevelSide", "TripsBevelBottom", "lblRuns",
+    "RunRectangle", "lblScoreRuns", "RunBevelSide", "RunBevelBottom",
+};
+const char* const kBoardArrays[] = {"PlayCard", "PlayCardSelection", "TempCard", "TempCardSelection", "UpCard"};
+const char* const kBoardSingles[] = {"FieldRect", "lblFieldCards", "lblTemp", "CardStackPicture", "UpCardSelection",
+                                     "lblCardCount", "ScoringLabelOutline", "lblHighScore"};
+
+std::vector<ControlSpec> Layout() {
+    std::vector<ControlSpec> specs;
+    auto add = [&specs](std::span<const ControlSpec> part) { specs.insert(specs.end(), part.begin(), part.end()); };
+    add(StandingControls());
+    add(TakeScoreButton());
+    add(QuitButton());
+    add(ScoringLabel());
+    add(kCounters);
+    add(kBoardLabels);
+    for (int i = 0; i < 3; ++i) {
+        specs.push_back({K::Image, "TempCard", i, kTempLeft[i], 240, kCardWidth, kCardHeight});
+        specs.push_back({K::Shape, "TempCardSelection", i, kTempLeft[i], 240, kCardWidth, kCardHeight});
+    }
+    // Lower rows in front, so that the landing slot under a column's last
+    // card takes the click on the part of that card it overlaps.
+    for (int i = 0; i < kFieldSlots; ++i) {
+        specs.push_back({K::Image, "PlayCard", i, kColumnLeft[i % 4], kRowTop[i / 4], kCardWidth, kCardHeight});
+        specs.push_back({K::Shape, "PlayCardSelection", i, kColumnLeft[i % 4], kRowTop[i / 4], kCardWidth, kCardHeight});
+    }
+    for (int i = 0; i < 3; ++i) specs.push_back({K::Image, "UpCard", i, kUpLeft[i], 4680, kCardWidth, kCardHeight});
+    specs.push_back({K::Shape, "UpCardSelection", -1, 4455, 4680, kCardWidth, kCardHeight});
+    add(FileMenu());
+    add(OptionsMenuHead());
+    specs.push_back({K::Menu, "mnuCustom", -1, 0, 0, 0, 0, "&User Options...", "mnuOptions"});
+    add(OptionsMenuTail());
+    for (const TimeEntry& e : kTimeEntries) specs.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTime"});
+    add(HelpMenu());
+    return specs;
+}
+
+}  // namespace
+
+void RegisterTreyshift(Runtime& runtime) {
+    runtime.registerForm("frmTreyshift", [](Runtime& rt) { return std::make_unique<frmTreyshift>(rt); });
+    runtime.registerForm("frmTreyshiftCustom", [](Runtime& rt) { return std::make_unique<frmTreyshiftCustom>(rt); });
+    RegisterRules("Treyshift!", TreyshiftRules);
+}
+
+frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
+    setSize(kDesignWidth, kDesignHeight);
+    add(Layout());
+    PrepareStandingControls(*this);
+    c("lblHighScore").move(5640, 5880, 2400, 255);
+    // The round stands as a caption of its own; the round box is not used.
+    for (const char* name : {"RoundRectangle", "lblCurrentRound", "RoundBevelSide", "RoundBevelBottom"})
+        c(name).setVisible(false);
+    SetTimer(*this, "Timer1", 1000, false);
+    SetTimer(*this, "Timer2", 200, true);
+    SetTimer(*this, "Timer3", 60000, true);
+    SetTimer(*this, "Timer4", 200, false);
+    c("cmdTakeScore").setToolTipText("Ends the round and awards points");
+    for (int i = 0; i < kFieldSlots; ++i) {
+        c("PlayCardSelection", i).setBorderColor(255);
+        c("PlayCardSelection", i).setBorderStyle(1);
+    }
+    for (int i = 0; i < 3; ++i) {
+        c("TempCardSelection", i).setBorderColor(0xFF0000);
+        c("TempCardSelection", i).setBorderStyle(1);
+    }
+    c("UpCardSelection").setBorderColor(255);
+    c("UpCardSelection").setBorderStyle(1);
+    for (const char* name : {"lblScoreTrips", "lblScoreRuns", "lblFieldCards"}) c(name).setAlignment(2);
+    for (const char* name : {"lblScoreTrips", "lblScoreRuns"}) c(name).setForeColor(0xFF0000);
+    Control& flush = c("lblFlush");
+    flush.setForeColor(255);
+    flush.setFont("MS Sans Serif", 8, true);
+    flush.setAlignment(2);
+    flush.setVisible(false);
+    c("ScoringLabelOutline").setVisible(false);
+    c("ScoringLabelOutline").setBorderStyle(1);
+    // The messages and the flush word stand in front of the cards.
+    for (const char* name : {"lblFlush", "lblScoring", "lblMessage"}) c(name).zOrderFront();
+    ShowCards(false);
+    for (int i = 0; i < 3; ++i) c("TempCardSelection", i).setVisible(false);
+    for (int i = 0; i < kFieldSlots; ++i) {
+        c("PlayCardSelection", i).setVisible(false);
+        if (i >= 4) c("PlayCard", i).setVisible(false);
+    }
+    c("UpCardSelection").setVisible(false);
+    ShowControls(false, true);
+    c("lblHighScore").setVisible(true);
+    PlaceBoard();
+
+    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
+    on(Ev::Resize, [this](EventArgs&) { Form_Resize(); });
+    on(Ev::QueryUnload, [this](EventArgs& e) { Form_QueryUnload(e); });
+    on("cmdPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(false); });
+    on("mnuPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(true); });
+    on("cmdPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    // The button and the menu entry are refused while a round is being scored.
+    on("cmdTakeScore", Ev::Click, [this](EventArgs&) {
+        if (!TakingScore) cmdTakeScore_Click();
+    });
+    on("mnuTakeScore", Ev::Click, [this](EventArgs&) {
+        if (!TakingScore) cmdTakeScore_Click();
+    });
+    on("cmdQuit", Ev::Click, [this](EventArgs&) {
+        if (!TakingScore) this->runtime().unload(*this);
+    });
+    on("mnuExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
+    on("PlayCard", Ev::Click, [this](EventArgs& e) { PlayCard_Click(e.index); });
+    on("TempCard", Ev::Click, [this](EventArgs& e) { TempCard_Click(e.index); });
+    on("UpCard", Ev::Click, [this](EventArgs& e) { UpCard_Click(e.index); });
+    on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
+    on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
+    on("Timer2", Ev::Timer, [this](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *this); });
+    on("Timer3", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
+    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
+    on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreIn("lblCurrentScore", "ScoreRectangle"); });
+    on("lblScoreTrips", Ev::Change, [this](EventArgs&) { CentreIn("lblScoreTrips", "TripsRectangle"); });
+    on("lblScoreRuns", Ev::Change, [this](EventArgs&) { CentreIn("lblScoreRuns", "RunRectangle"); });
+    on("lblTrips", Ev::Change, [this](EventArgs&) { CentreIn("lblTrips", "TripsRectangle"); });
+    on("lblRuns", Ev::Change, [this](EventArgs&) { CentreIn("lblRuns", "RunRectangle"); });
+    // The big labels take the width of their text, so that they can be centred.
+    for (const char* name : {"lblMessage", "lblScoring", "lblFlush"})
+        on(name, Ev::Change, [this, name](EventArgs&) { FitLabel(name); });
+    for (const TimeEntry& entry : kTimeEntries)
+        on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
+    for (int design = 1; design <= 4; ++design)
+        on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
+    on("mnuSounds", Ev::Click, [this](EventArgs&) { SetPlaySounds(*this, !PlaySounds); });
+    on("mnuMusic", Ev::Click, [this](EventArgs&) {
+        SetPlayMusic(*this, !PlayMusic, GameInProgress && c("cmdPause").caption() == kPauseCaption);
+    });
+    on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmTreyshiftCustom", true); });
+    on("mnuView", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmHighScores"); });
+    on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
+    on("mnuRules", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmRules"); });
+    on("mnuAbout", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmAbout"); });
+
+    expose("TripValue", Expose(TripValue));
+    expose("RunValue", Expose(RunValue));
+    expose("FlushValue", Expose(FlushValue));
+    expose("DeckValue", Expose(DeckValue));
+    expose("PenaltyValue", Expose(PenaltyValue));
+    expose("BonusScore", Expose(BonusScore));
+    expose("DeckPosition", Expose(DeckPosition));
+    expose("Selected", Expose(Selected));
+    expose("SourceZone", Expose(SourceZone));
+    expose("SourceIndex", Expose(SourceIndex));
+    expose("TripCount", Expose(TripCount));
+    expose("RunCount", Expose(RunCount));
+    expose("CurrentRound", Expose(CurrentRound));
+    const auto array = [](const auto& cards) {
+        return [&cards](int index, Value& out) {
+            if (index < 0 || index >= static_cast<int>(cards.size())) return false;
+            out = cards[static_cast<size_t>(index)];
+            return true;
+        };
+    };
+    expose("FieldCards", array(FieldCards));
+    expose("TempCards", array(TempCards));
+    expose("UpCards", array(UpCards));
+}
+
+// ---- Loading and closing ---------------------------------------------------------
+
+SettingsLayout frmTreyshift::SettingsSections() {
+    SettingsLayout layout = {
+        {"[Time]", [this](const std::string& v) { ApplyTimeSetting(*this, v, kTimeEntries); },
+         [] { return NumText(TimeLimit); }},
+        {"[Play Sounds]", [this](const std::string& v) { SetPlaySounds(*this, ParseBoolText(v)); },
+         [] { return std::string(BoolText(PlaySounds)); }},
+        {"[Play Music]", [this](const std::string& v) { SetPlayMusic(*this, ParseBoolText(v), false); },
+         [] { return std::string(BoolText(PlayMusic)); }},
+        {"[Count Down Score]", [](const std::string& v) { CountDownScore = ParseBoolText(v); },
+         [] { return std::string(BoolText(CountDownScore)); }},
+        {"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kDeckMenus); },
+         [] { return NumText(DeckDesign); }},
+        {"[Time Bonus]", [](const std::string& v) { TimeBonus = CLng(Val(v)); }, [] { return NumText(TimeBonus); }},
+        {"[Bonus Score]", [this](const std::string& v) { BonusScore = CLng(Val(v)); },
+         [this] { return NumText(BonusScore); }},
+        // Written, but what is read back goes to another game's value: the
+        // trip value always starts at its default.
+        {"[Trips Score]", nullptr, [this] { return NumText(TripValue); }},
+        {"[Runs Score]", [this](const std::string& v) { RunValue = CLng(Val(v)); }, [this] { return NumText(RunValue); }},
+        {"[Flush Score]", [this](const std::string& v) { FlushValue = CLng(Val(v)); },
+         [this] { return NumText(FlushValue); }},
+    };
+    for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
+    return layout;
+}
+
+void frmTreyshift::Form_Load() {
+    setMousePointer(11);
+    c("Timer4").setEnabled(true);
+    c("Timer1").setEnabled(false);
+    TimeLimit = kDefaultTimeLimit;
+    PlaySounds = true;
+    PlayMusic = false;
+    DeckDesign = 1;
+    CountDownScore = true;
+    TripValue = kDefaults.TripValue;
+    RunValue = kDefaults.RunValue;
+    FlushValue = kDefaults.FlushValue;
+    DeckValue = kDefaults.DeckValue;
+    PenaltyValue = kDefaults.PenaltyValue;
+    TimeBonus = kDefaults.TimeBonus;
+    BonusScore = kDefaults.BonusScore;
+    c("mnu120").setChecked(true);
+    c("mnuSounds").setChecked(true);
+    ShowWelcome(*this);
+    ReadSettingsINI(kSettingsFile, SettingsSections());
+    CheckForCustom();
+    GameStartTime = runtime().platform().wallClock();
+    ShowSplashCaptions(*this);
+    CentreOnScreen(*this);
+    InitTimeDial(*this);
+    ShowHighScore(kTable, *this, kTableDefault);
+    setMousePointer(0);
+}
+
+void frmTreyshift::Form_QueryUnload(EventArgs& args) {
+    if (!AskYesNo(CloseQuestion())) {
+        args.cancel = true;
+        return;
+    }
+    LeaveGameWindow(*this, kSettingsFile, SettingsSections());
+}
+
+// The cards keep their size: a resize keeps the board in the middle of the
+// window, the buttons and boxes at its right edge, the status bar at the bottom.
+void frmTreyshift::Form_Resize() {
+    if (windowState() == 1) return;
+    if ((width() < kDesignWidth || height() < kDesignHeight) && windowState() == 0) {
+        setSize(kDesignWidth, kDesignHeight);
+        return;
+    }
+    PlaceBoard();
+}
+
+void frmTreyshift::PlaceBoard() {
+    const int clientWidth = width() - 120;
+    const int clientHeight = height() - 660;
+    const int dx = (width() - kDesignWidth) / 2;
+    const int dy = (height() - kDesignHeight) / 2;
+    const int right = width() - kDesignWidth;
+    static std::vector<ControlSpec> design = Layout();
+    for (const ControlSpec& spec : design) {
+        Control* control = find(spec.name, spec.index);
+        if (!control) continue;
+        const std::string name = spec.name;
+        bool inRight = false, onBoard = false;
+        for (const char* r : kRightColumn) inRight = inRight || name == r;
+        for (const char* b : kBoardArrays) onBoard = onBoard || name == b;
+        for (const char* b : kBoardSingles) onBoard = onBoard || name == b;
+        if (inRight) control->setLeft(spec.left + right);
+        if (onBoard) control->move(spec.left + dx, spec.top + dy, spec.width, spec.height);
+    }
+    c("lblHighScore").move(5640 + dx, 5880 + dy, 2400, 255);
+    Control& splash = c("frmSplash");
+    splash.setLeft((clientWidth - splash.width()) / 2);
+    splash.setTop(480 + dy);
+    c("StatusBar1").move(0, clientHeight - 330, clientWidth, 330);
+    CentreIn("lblCurrentScore", "ScoreRectangle");
+    CentreIn("lblScoreTrips", "TripsRectangle");
+    CentreIn("lblScoreRuns", "RunRectangle");
+    CentreIn("lblTrips", "TripsRectangle");
+    CentreIn("lblRuns", "RunRectangle");
+}
+
+// ---- Menus ----------------------------------------------------------------------------
+
+void frmTreyshift::mnuTime_Click(const char* menu) {
+    ChooseTimeLimit(*this, kTimeEntries, menu);
+    ShowHighScore(kTable, *this, kRoundsDefault);
+}
+
+void frmTreyshift::mnuDeck_Click(int design) {
+    ChooseBackDesign(*this, kDeckMenus[design - 1]);
+    c("CardStackPicture").setPicture(ImageList2().indexOf(StackKey(DeckPosition)));
+    DeckDesign = static_cast<int16_t>(design);
+}
+
+void frmTreyshift::mnuClear_Click() {
+    if (!AskYesNo(kClearScoresQuestion)) return;
+    CreateHighScoreFile(kTable, *this, kTableDefault);
+    ShowHighScore(kTable, *this, kTableDefault);
+}
+
+void frmTreyshift::CheckForCustom() {
+    ScoringValues values;
+    values.TripValue = TripValue;
+    values.RunValue = RunValue;
+    values.FlushValue = FlushValue;
+    values.DeckValue = DeckValue;
+    values.PenaltyValue = PenaltyValue;
+    values.TimeBonus = TimeBonus;
+    values.BonusScore = BonusScore;
+    CustomScoringInUse = IsCustomScoring(values);
+}
+
+}  // namespace ch

@@ -1,0 +1,111 @@
+// The Treyshift window: a storage of three slots at the top, four columns of
+// up to three cards in the middle and the deck with its fan of three up cards
+// at the bottom. The player moves one card at a time by two clicks; a column
+// of three that makes a Trip or a Run clears itself and pays at once. Two
+// rounds and, on a high enough score, a bonus round.
+//
+// The class spans three files: frmTreyshift.cpp (layout, menus, loading,
+// closing, resizing, settings), frmTreyshiftBoard.cpp (the deal, clicks,
+// moves, column scoring, what the board shows) and frmTreyshiftRounds.cpp
+// (Play, pause, the clock, the end of a round and of the game).
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "games/treyshift/modTreyshift.h"
+#include "suite/gamewindow.h"
+#include "suite/settings.h"
+#include "window/form.h"
+
+namespace ch {
+
+class frmTreyshift : public Form {
+public:
+    explicit frmTreyshift(Runtime& runtime);
+
+    // Scoring values; the custom scoring dialog writes them (TimeBonus is shared).
+    int32_t TripValue = treyshift::kDefaults.TripValue;
+    int32_t RunValue = treyshift::kDefaults.RunValue;
+    int32_t FlushValue = treyshift::kDefaults.FlushValue;
+    int32_t DeckValue = treyshift::kDefaults.DeckValue;
+    int32_t PenaltyValue = treyshift::kDefaults.PenaltyValue;
+    int32_t BonusScore = treyshift::kDefaults.BonusScore;
+
+    void CheckForCustom();
+
+private:
+    // ---- frmTreyshift.cpp
+    void Form_Load();
+    void Form_Resize();
+    void Form_QueryUnload(EventArgs& args);
+    void PlaceBoard();
+    void mnuTime_Click(const char* menu);
+    void mnuDeck_Click(int design);
+    void mnuClear_Click();
+    SettingsLayout SettingsSections();
+
+    // ---- frmTreyshiftBoard.cpp
+    void UpCard_Click(int index);
+    void CardStackPicture_Click();
+    void TempCard_Click(int index);
+    void PlayCard_Click(int index);
+    void MoveCard(int& DestIndex, int16_t DestZone);
+    void MoveToField(int& d);
+    void MoveToTemp(int d);
+    void ClearFieldSource(int s);
+    void CancelSelection();
+    void StuckTest();
+    void UpDateDeck();
+    void Deal();
+    void ShowCards(bool show);
+    void ShowControls(bool showBoard, bool showScore);
+    void NoMovesLeft();
+    void CheckColumn(int column);
+    void CheckFlush(int column, bool& IsFlush);
+    void ClearColumn(int column);
+    void ShowFlushMessage(int column);
+    bool ShowsEmpty(const Control& slot) const;
+    bool HasCard(const Control& slot) const;
+    void ShowCard(Control& slot, const std::string& code);
+    void ShowEmpty(Control& slot);
+
+    // ---- frmTreyshiftRounds.cpp
+    void cmdPlay_Click(bool fromMenu);
+    void Play();
+    void EndGame();
+    void cmdPause_Click();
+    void cmdTakeScore_Click();
+    void Timer1_Timer();
+    void EndRound();
+    void RemoveLeftOverCards();
+    void InitRound();
+    void ResetDial();
+    void CenterScoringLabel();
+    void CentreAcross(Control& label);
+    void CentreIn(const char* label, const char* rectangle);
+    void FitLabel(const char* label);
+    void ShowScore();
+    void Wave(const char* name) const;
+    int ScaleWidth() const;
+
+    // The board.
+    std::array<std::string, treyshift::kFieldSlots> FieldCards;
+    std::array<std::string, treyshift::kTempSlots> TempCards;
+    std::array<std::string, treyshift::kUpSlots> UpCards;
+    int16_t DeckPosition = 0;
+    bool Selected = false;
+    int16_t SourceZone = -1;
+    int16_t SourceIndex = -1;
+    int16_t TripCount = 0;
+    int16_t RunCount = 0;
+    int16_t CurrentRound = 1;
+    SplashAnimation Splash;
+};
+
+void RegisterTreyshift(Runtime& runtime);
+// The rules window's text from the live settings (rulestext.cpp).
+std::string TreyshiftRules();
+
+}  // namespace ch

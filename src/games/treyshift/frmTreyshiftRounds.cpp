@@ -1,0 +1,358 @@
+// Treyshift's rounds: Play and End Game, pause, the round clock, Take Score
+// and the end of a round with its deck completion bonus, the removal of left
+// over cards and the speed bonus, then the next round, the bonus round or the
+// end of the game.
+#include "games/treyshift/frmTreyshift.h"
+
+#include "suite/cards.h"
+#include "suite/common.h"
+#include "suite/dial.h"
+#include "suite/labels.h"
+#include "suite/sound.h"
+#include "window/basic.h"
+#include "window/runtime.h"
+
+namespace ch {
+
+using namespace treyshift;
+
+namespace {
+const char* const kTable = "TreyshiftHiScores";
+const char* const kRoundsDefault = "30000";
+}  // namespace
+
+// ---- Play, End Game, pause ----------------------------------------------------------
+
+void frmTreyshift::cmdPlay_Click(bool fromMenu) {
+    if (TakingScore) return;
+    if (c(fromMenu ? "mnuPlay" : "cmdPlay").caption() == kPlayCaption) {
+        Play();
+        return;
+    }
+    if (PlayMusic) StopMusic();
+    cmdPause_Click();
+    if (!AskYesNo(fromMenu ? kRestartQuestion : kQuitQuestion)) {
+        cmdPause_Click();
+        return;
+    }
+    EndGame();
+}
+
+void frmTreyshift::Play() {
+    TakingScore = false;
+    CurrentRound = 1;
+    CurrentScore = 0;
+    InitRound();
+    if (!loaded()) return;
+    ShowSplash(*this, false);
+    Control& bar = c("StatusBar1");
+    // Deal writes both panels again at once.
+    bar.setPanel(2, "Click on cards to straights or runs!   ");
+    bar.setPanel(1, "Make " + FormatScore(BonusScore) + " for bonus round.  ");
+    c("mnuTime").setEnabled(false);
+    c("mnuCustom").setEnabled(false);
+    SetPlayCaptions(*this, true);
+    for (const char* name : {"cmdTakeScore", "mnuTakeScore", "mnuPause", "cmdPause"}) c(name).setEnabled(true);
+    c("lblTime").setCaption("Time: " + NumText(TimeLimit));
+    ElapsedSeconds = 0;
+    ResetDial();
+    c("Timer1").setEnabled(true);
+    for (const char* name : {"TimerRectangle", "TimerBevelSide", "TimerBevelBottom"}) c(name).setVisible(true);
+    if (!CreateStandardDeck() || !ShuffleDeck()) {
+        EndGame();
+        return;
+    }
+    GameInProgress = true;
+    Deal();
+    ShowControls(true, true);
+    ShowCards(true);
+    if (PlayMusic) StartMusic();
+    c("lblCardCount").setCaption(CardsRemainingText(DeckPosition));
+}
+
+// A confirmed End Game: the board goes, nothing reaches the table.
+void frmTreyshift::EndGame() {
+    GameInProgress = false;
+    SetResumedControls(*this);
+    for (const char* name : {"cmdPause", "cmdTakeScore", "mnuPause", "mnuTakeScore"}) c(name).setEnabled(false);
+    SetPlayCaptions(*this, false);
+    ShowControls(false, false);
+    ShowCards(false);
+    ResetDial();
+    ShowSplash(*this, true);
+    for (const char* name : {"mnuTime", "mnuDeck", "mnuCustom"}) c(name).setEnabled(true);
+    c("Timer1").setEnabled(false);
+    for (const char* name : {"TimerRectangle", "TimerBevelSide", "TimerBevelBottom"}) c(name).setVisible(false);
+}
+
+// A paused game shows no cards.
+void frmTreyshift::cmdPause_Click() {
+    if (TakingScore) return;
+    if (c("cmdPause").caption() == kPauseCaption) {
+        SetPausedControls(*this);
+        ShowCards(false);
+        if (PlayMusic) StopMusic();
+    } else {
+        SetResumedControls(*this);
+        ShowCards(true);
+        if (PlayMusic && GameInProgress) StartMusic();
+    }
+}
+
+// ---- The clock and Take Score ------------------------------------------------------------
+
+// Time running out is no forfeit: the round is scored as if taken, with no
+// seconds left to pay.
+void frmTreyshift::Timer1_Timer() {
+    AdvanceRoundClock(*this);
+    ShowTimeWarnings(*this);
+    if (ElapsedSeconds != TimeLimit) return;
+    setMousePointer(11);
+    c("Timer1").setEnabled(false);
+    for (int i = 0; i < kUpSlots; ++i) c("UpCard", i).setVisible(false);
+    for (const char* name : {"UpCardSelection", "CardStackPicture", "lblCardCount"}) c(name).setVisible(false);
+    Control& scoring = c("lblScoring");
+    scoring.setCaption(kTimesUp);
+    CentreAcross(scoring);
+    scoring.setTop(c("UpCardSelection").top());
+    scoring.setVisible(true);
+    runtime().refresh();
+    c("StatusBar1").setPanel(2, "Time has expired!");
+    Wave("\\Slide.wav");
+    BlinkLabel(scoring, 10, 250);
+    cmdTakeScore_Click();
+    if (!loaded()) return;
+    if (c("lblMessage").caption() != kGameOver) c("lblMessage").setVisible(false);
+    setMousePointer(0);
+}
+
+void frmTreyshift::cmdTakeScore_Click() {
+    DoEvents();
+    if (!loaded()) return;
+    TakingScore = true;
+    EndRound();
+    DoEvents();
+}
+
+// ---- The end of a round -------------------------------------------------------------------
+
+// Deck completion bonus and left over cards (only when the deck is used up),
+// speed bonus, then the next round or the end of the game; all of it blocks.
+void frmTreyshift::EndRound() {
+    Control& scoring = c("lblScoring");
+    Control& message = c("lblMessage");
+    setMousePointer(11);
+    c("Timer1").setEnabled(false);
+    scoring.setForeColor(0xFF0000);
+    if (PlayMusic) StopMusic();
+    ShowControls(false, true);
+
+    if (ShowsEmpty(c("UpCard", 2))) {
+        for (int i = 0; i < kUpSlots; ++i) c("UpCard", i).setVisible(false);
+        c("CardStackPicture").setVisible(false);
+        scoring.setCaption("Deck Completion Bonus!");
+        message.setCaption(FormatScore(DeckValue) + "!");
+        AddToScore(DeckValue);
+        ShowScore();
+        Wave("\\Applause.wav");
+        CentreAcross(scoring);
+        scoring.setTop(c("UpCardSelection").top());
+        CentreAcross(message);
+        message.setTop(scoring.height() + c("UpCardSelection").top() + 100);
+        scoring.setVisible(true);
+        message.setVisible(true);
+        runtime().refresh();
+        Sleep(2000);
+        scoring.setVisible(false);
+        message.setVisible(false);
+        RemoveLeftOverCards();
+    }
+
+    ShowCards(false);
+    message.setCaption("Speed Bonus!");
+    const Control& outline = c("ScoringLabelOutline");
+    message.setTop(outline.top() + (outline.height() - message.height()) / 2);
+    CenterScoringLabel();
+    if (TimeLimit - ElapsedSeconds > 0) {
+        TimeBonusOptions options;
+        options.messageBesideScoring = true;
+        CountTimeBonus(*this, TimeBonus, options);
+    }
+    message.setVisible(false);
+
+    if (GameEndsAfter(CurrentRound, CurrentScore, BonusScore)) {
+        FinishGameSteps steps;
+        steps.showCards = [this](bool show) { ShowCards(show); };
+        steps.showControls = [this](bool board, bool score) { ShowControls(board, score); };
+        steps.disableTakeScoreMenu = false;
+        FinishGame(*this, kTable, kRoundsDefault, steps);
+        if (!loaded()) return;
+        GameInProgress = false;
+        ShowCards(false);
+        ShowControls(false, false);
+        ResetDial();
+        c("cmdPlay").setToolTipText(kStartsTip);
+        ShowCards(false);
+        scoring.setForeColor(0xFF0000);
+        scoring.setCaption(kGameOver);
+        CenterScoringLabel();
+        scoring.setVisible(true);
+        c("ScoringLabelOutline").setVisible(true);
+        runtime().refresh();
+        Sleep(1000);
+        scoring.setVisible(false);
+        c("ScoringLabelOutline").setVisible(false);
+        ShowSplash(*this, true);
+        runtime().refresh();
+    } else {
+        scoring.setForeColor(255);
+        CurrentRound += 1;
+        scoring.setCaption(PrepareText(CurrentRound));
+        CenterScoringLabel();
+        scoring.setVisible(true);
+        c("ScoringLabelOutline").setVisible(true);
+        runtime().refresh();
+        Sleep(2000);
+        InitRound();
+        if (!loaded()) return;
+        CreateStandardDeck();
+        ShuffleDeck();
+        Deal();
+        c("ScoringLabelOutline").setVisible(false);
+        scoring.setVisible(false);
+        ShowControls(true, true);
+        ShowCards(true);
+        c("lblRound").setCaption("Round: " + NumText(CurrentRound));
+        c("lblTime").setCaption("Time: " + NumText(TimeLimit));
+        if (PlayMusic) StartMusic();
+    }
+    setMousePointer(0);
+}
+
+// After the deck is used up every card left in the field and in storage
+// costs PenaltyValue, taken off one at a time, the lowest field card first.
+void frmTreyshift::RemoveLeftOverCards() {
+    bool any = false;
+    for (const std::string& card : FieldCards) any = any || !card.empty();
+    for (const std::string& card : TempCards) any = any || !card.empty();
+    if (!any) return;
+    Control& scoring = c("lblScoring");
+    Control& message = c("lblMessage");
+    scoring.setCaption("Removing left over cards");
+    message.setCaption("-" + NumText(PenaltyValue));
+    CentreAcross(scoring);
+    CentreAcross(message);
+    scoring.setVisible(true);
+    message.setVisible(true);
+    runtime().refresh();
+    Sleep(1000);
+
+    Control& flush = c("lblFlush");
+    flush.setCaption("-" + NumText(PenaltyValue));
+    flush.setBackStyle(0);
+    flush.setFontSize(10);
+    FitLabelToText(flush);
+    const auto remove = [&](const char* selectionName, const char* cardName, int i, bool keepsSlot) {
+        Control& card = c(cardName, i);
+        c(selectionName, i).setVisible(true);
+        AddToScore(-static_cast<long long>(PenaltyValue));
+        ShowScore();
+        flush.setLeft(card.left() + card.width() / 2 - flush.width() / 2);
+        flush.setVisible(true);
+        Wave("\\Click.wav");
+        runtime().refresh();
+        Sleep(500);
+        c(selectionName, i).setVisible(false);
+        if (keepsSlot)
+            ShowEmpty(card);
+        else
+            card.setVisible(false);
+    };
+    flush.setTop(c("PlayCardSelection", 0).top() - 250);
+    for (int i = kFieldSlots - 1; i >= 0; --i)
+        if (!FieldCards[static_cast<size_t>(i)].empty()) remove("PlayCardSelection", "PlayCard", i, i < 4);
+    flush.setTop(c("TempCardSelection", 0).top() - 250);
+    for (int i = kTempSlots - 1; i >= 0; --i)
+        if (!TempCards[static_cast<size_t>(i)].empty()) remove("TempCardSelection", "TempCard", i, true);
+
+    flush.setCaption("Flush!");
+    flush.setBackStyle(1);
+    flush.setFontSize(8);
+    FitLabelToText(flush);
+    flush.setVisible(false);
+    message.setVisible(false);
+    scoring.setVisible(false);
+}
+
+// A new round's board: nothing dealt, nothing selected. The trip and run
+// counts start again, but their boxes keep the last round's figures until
+// the first Trip or Run of this round.
+void frmTreyshift::InitRound() {
+    DoEvents();
+    if (!loaded()) return;
+    TakingScore = false;
+    for (std::string& card : FieldCards) card.clear();
+    for (std::string& card : UpCards) card.clear();
+    for (std::string& card : TempCards) card.clear();
+    for (int i = 0; i < kFieldSlots; ++i) {
+        Control& slot = c("PlayCard", i);
+        slot.setPicture(0);
+        if (i >= 4) slot.setVisible(false);
+        slot.setBorderStyle(0);
+        c("PlayCardSelection", i).setVisible(false);
+    }
+    for (int i = 0; i < 3; ++i) {
+        c("UpCard", i).setPicture(0);
+        c("UpCard", i).setBorderStyle(1);
+        c("TempCard", i).setPicture(0);
+        c("TempCard", i).setBorderStyle(0);
+        c("TempCardSelection", i).setVisible(false);
+    }
+    c("UpCardSelection").setVisible(false);
+    CancelSelection();
+    ElapsedSeconds = 0;
+    TripCount = 0;
+    RunCount = 0;
+    c("lblRound").setCaption("Round: " + NumText(CurrentRound));
+    c("lblCardCount").setCaption(CardsRemainingText(DeckPosition));
+    ShowScore();
+    CentreIn("lblScoreRuns", "RunRectangle");
+    CentreIn("lblScoreTrips", "TripsRectangle");
+    c("lblTrips").setCaption("Trips (" + NumText(TripValue) + "):");
+    c("lblRuns").setCaption("Runs (" + NumText(RunValue) + "):");
+}
+
+// ---- Placing and showing ------------------------------------------------------------------
+
+void frmTreyshift::ResetDial() {
+    InitTimeDial(*this);
+    DialSeconds = 0;
+}
+
+void frmTreyshift::CenterScoringLabel() {
+    Control& scoring = c("lblScoring");
+    const Control& outline = c("ScoringLabelOutline");
+    scoring.setLeft(outline.left() + (outline.width() - scoring.width()) / 2);
+    scoring.setTop(outline.top() + (outline.height() - scoring.height()) / 2);
+}
+
+void frmTreyshift::CentreAcross(Control& label) { label.setLeft((ScaleWidth() - label.width()) / 2); }
+
+// The counters stay inside their boxes; the captions above them may run over.
+void frmTreyshift::CentreIn(const char* label, const char* rectangle) {
+    const std::string name = label;
+    CentreLabelIn(*this, label, rectangle, name != "lblTrips" && name != "lblRuns");
+}
+
+void frmTreyshift::FitLabel(const char* label) { FitLabelToText(c(label)); }
+
+void frmTreyshift::ShowScore() { c("lblCurrentScore").setCaption(FormatScore(CurrentScore)); }
+
+void frmTreyshift::Wave(const char* name) const {
+    if (PlaySounds && *name) PlayWaveFile(name);
+}
+
+// The inner width of the window, inside its borders.
+int frmTreyshift::ScaleWidth() const { return width() - 120; }
+
+}  // namespace ch

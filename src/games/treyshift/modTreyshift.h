@@ -1,0 +1,105 @@
+// The rules of Treyshift as plain data and functions: how a column of three
+// cards scores (Trip, Run, flush Run) and what each pays with which sound,
+// the deck stack and card count, the stuck position, the end of a round, the
+// default scoring values, and the fields of the custom scoring dialog.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace ch::treyshift {
+
+constexpr int kFieldSlots = 12;  // column c holds slots c, c + 4, c + 8, top to bottom
+constexpr int kColumns = 4;
+constexpr int kTempSlots = 3;
+constexpr int kUpSlots = 3;      // UpCards(2) is the card in play
+
+// The three zones a card moves between.
+constexpr int16_t ZoneDeck = 0;
+constexpr int16_t ZoneTemp = 1;
+constexpr int16_t ZoneField = 2;
+
+// The deck slot last turned up after the deal; each card taken adds one.
+constexpr int kFirstDeckPosition = 3;
+// From here on a move does nothing: the empty card past the deck was taken.
+constexpr int kDeckPositionSpent = 56;
+
+// Default scoring values; the custom scoring dialog and CheckForCustom
+// compare against these.
+struct ScoringValues {
+    int32_t TripValue = 6000;     // three of a rank
+    int32_t RunValue = 300;       // three in sequence
+    int32_t FlushValue = 5000;    // extra for a Run of one suit
+    int32_t DeckValue = 15000;    // using up the deck
+    int32_t PenaltyValue = 250;   // each left over card after the deck is used up, held positive
+    int32_t TimeBonus = 200;      // each second left
+    int32_t BonusScore = 100000;  // score after round 2 that earns the bonus round
+};
+inline constexpr ScoringValues kDefaults{};
+constexpr int16_t kDefaultTimeLimit = 120;
+
+// True unless every value equals its default.
+bool IsCustomScoring(const ScoringValues& values);
+
+// ---- Columns -----------------------------------------------------------------
+enum class ColumnKind { None, Trip, Run, FlushRun };
+
+// Three of a rank, by the numbers at the start of the codes.
+bool IsTrip(int top, int middle, int bottom);
+// Three in sequence read from the top, up or down; the ace counts low in
+// both, and high only in ace-king-queen and queen-king-ace.
+bool IsRun(int top, int middle, int bottom);
+// The three codes end in the same suit letter.
+bool IsFlush(const std::string& top, const std::string& middle, const std::string& bottom);
+// What a full column makes; a Trip is never tested for a flush.
+ColumnKind ScoreColumn(const std::string& top, const std::string& middle, const std::string& bottom);
+
+// What a column pays during play and the sound it makes.
+struct ColumnAward {
+    long long points;   // a flush Run pays FlushValue and RunValue
+    const char* sound;  // "" for a column that stays
+};
+ColumnAward AwardFor(ColumnKind kind, const ScoringValues& values);
+
+// ---- Deck ----------------------------------------------------------------------
+// The stack picture after a card is taken: "FULL", "HALF", "BACK", "EMPTY".
+const char* StackKey(int deckPosition);
+// "Cards remaining: 52"; -1 once the empty card past the deck is taken.
+std::string CardsRemainingText(int deckPosition);
+
+// ---- Round ---------------------------------------------------------------------
+// A full storage and four full bottom slots: the only position taken as stuck.
+bool IsStuck(const std::array<std::string, kTempSlots>& temp, const std::array<std::string, kFieldSlots>& field);
+// After the round just scored: the game ends after round 2 unless the score
+// reached BonusScore, and always after the bonus round.
+bool GameEndsAfter(int round, long long score, long long bonusScore);
+// "Prepare For Round 2", "Prepare For Bonus Round".
+std::string PrepareText(int nextRound);
+
+// ---- Custom scoring dialog -------------------------------------------------------
+enum class ScoringField { Trip, Run, Deck, Flush, BonusRound, Penalty, TimeBonus };
+struct ScoringFieldSpec {
+    ScoringField field;
+    const char* textBox;
+    const char* label;
+    const char* caption;
+    long long low, high;
+    const char* belowMessage;  // the value put back is `low`
+    const char* aboveMessage;  // the value put back is `high`
+};
+// In the order the OK button checks them; the time bonus is last.
+extern const std::array<ScoringFieldSpec, 7> kScoringFields;
+
+// One field's check. `stored` is what goes to the value: the rounded number
+// inside the range (for the penalty its absolute value), otherwise the limit
+// passed, as it stands. `shown` is the text the box then holds.
+struct FieldCheck {
+    bool valid;
+    int32_t stored;
+    const char* message;  // null when valid
+    std::string shown;
+};
+FieldCheck CheckScoringField(const ScoringFieldSpec& spec, const std::string& text);
+
+}  // namespace ch::treyshift
