@@ -159,6 +159,7 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
     ShowTimerFrame(false);
     CenterScoringLabel();
 
+    BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
     on(Ev::Load, [this](EventArgs&) { Form_Load(); });
     on(Ev::Resize, [this](EventArgs&) { Form_Resize(); });
     on(Ev::QueryUnload, [this](EventArgs& e) { Form_QueryUnload(e); });
@@ -169,13 +170,9 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
     on("cmdQuit", Ev::Click, [this](EventArgs&) {
         if (!TakingScore) this->runtime().unload(*this);
     });
-    on("mnuExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
     on("PlayCards", Ev::Click, [this](EventArgs& e) { PlayCards_Click(e.index); });
     on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    on("Timer2", Ev::Timer, [this](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *this); });
-    on("Timer3", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
-    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
     on("lblRow", Ev::Change, [this](EventArgs& e) { lblHand_Change("lblRow", e.index); });
     on("lblCol", Ev::Change, [this](EventArgs& e) { lblCol_Change(e.index); });
     on("lblOverwrites", Ev::Change, [this](EventArgs&) { lblOverwrites_Change(); });
@@ -186,15 +183,8 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int design = 1; design <= 4; ++design)
         on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
-    on("mnuSounds", Ev::Click, [this](EventArgs&) { SetPlaySounds(*this, !PlaySounds); });
-    on("mnuMusic", Ev::Click, [this](EventArgs&) {
-        SetPlayMusic(*this, !PlayMusic, GameInProgress && c("cmdPause").caption() == kPauseCaption);
-    });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmHandgridCustom", true); });
-    on("mnuView", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmHighScores"); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { ClearHighScores(*this, kTable, kDefaultScore); });
-    on("mnuRules", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmRules"); });
-    on("mnuAbout", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmAbout"); });
 
     expose("PlayedCards", [this](int index, Value& out) {
         if (index < 0 || index >= kCells) return false;
@@ -232,16 +222,12 @@ SettingsLayout frmHandgrid::SettingsSections() {
     };
     const auto hand = [&](const char* name, Hand h) { return named(name, number32(HandScores[static_cast<size_t>(h)])); };
     SettingsLayout layout = {
-        {"[Time]", [this](const std::string& v) { ApplyTimeSetting(*this, v, kReadableTimes); },
-         [] { return NumText(TimeLimit); }},
-        {"[Play Sounds]", [this](const std::string& v) { SetPlaySounds(*this, ParseBoolText(v)); },
-         [] { return std::string(BoolText(PlaySounds)); }},
-        {"[Play Music]", [this](const std::string& v) { SetPlayMusic(*this, ParseBoolText(v), false); },
-         [] { return std::string(BoolText(PlayMusic)); }},
+        TimeSection(*this, kReadableTimes),
+        PlaySoundsSection(*this),
+        PlayMusicSection(*this),
         {"[Count Down Score]", [](const std::string& v) { CountDownScore = ParseBoolText(v); },
          [] { return std::string(BoolText(CountDownScore)); }},
-        {"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kDeckMenus); },
-         [] { return NumText(DeckDesign); }},
+        DeckSection(*this, kDeckMenus),
         named("[Time Bonus]", number32(TimeBonus)),
         named("[Bonus Score]", number32(BonusScore)),
         hand("[Pair Score]", OnePair),
@@ -261,16 +247,7 @@ SettingsLayout frmHandgrid::SettingsSections() {
 }
 
 void frmHandgrid::Form_Load() {
-    setMousePointer(11);
-    c("Timer4").setEnabled(true);
-    c("Timer1").setEnabled(false);
-    TimeLimit = kDefaultTimeLimit;
-    ClearTimeCheck(*this, kTimeEntries);
-    c("mnu75").setChecked(true);
-    SetPlaySounds(*this, true);
-    SetPlayMusic(*this, false, false);
-    DeckDesign = 1;
-    CountDownScore = true;
+    BeginFormLoad(*this, kDefaultTimeLimit, "mnu75");
     BonusScore = kDefaultBonusScore;
     TimeBonus = kDefaultTimeBonus;
     HandScores = kDefaultHandValues;
@@ -279,15 +256,10 @@ void frmHandgrid::Form_Load() {
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
     CheckForCustom();
-    GameStartTime = runtime().platform().wallClock();
-    ShowSplashCaptions(*this);
-    CentreOnScreen(*this);
-    InitTimeDial(*this);
     ShowOverWrites();
     c("lblTimeBonus").setCaption(NumText(TimeLimit));
     lblRound_Change();
-    ShowHighScore(kTable, *this, kDefaultScore);
-    setMousePointer(0);
+    CompleteFormLoad(*this, kTable, kDefaultScore);
 }
 
 // The clock runs on while the question stands.

@@ -65,7 +65,6 @@ private:
     void CenterScoringLabel();
     void ShowOverWrites();
     void ShowStackPicture(std::string key);
-    void FitWidth(Control& label) const;
     void Wave(const char* name) const;
 
     // frmHandgridRounds.cpp: the rounds.

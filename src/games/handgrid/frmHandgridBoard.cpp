@@ -5,6 +5,7 @@
 
 #include "suite/cards.h"
 #include "suite/common.h"
+#include "suite/labels.h"
 #include "suite/sound.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -186,11 +187,6 @@ void frmHandgrid::ShowOverWrites() {
 
 // ---- Labels that place themselves ---------------------------------------------------------
 
-// A label is as wide as its text.
-void frmHandgrid::FitWidth(Control& label) const {
-    label.setWidth(runtime().platform().textWidth(label.caption(), label.fontSize(), label.fontBold()) + 30);
-}
-
 // A hand named in a row or column: "TwentyOne.wav", and no "Click.wav" for
 // this placement.
 void frmHandgrid::lblHand_Change(const char* array, int Index) {
@@ -202,7 +198,7 @@ void frmHandgrid::lblHand_Change(const char* array, int Index) {
 void frmHandgrid::lblCol_Change(int Index) {
     Control& label = c("lblCol", Index);
     const Control& foot = c("PlayCards", Index + 19);
-    FitWidth(label);
+    FitLabelToText(label);
     label.setLeft(foot.left() + (foot.width() - label.width()) / 2);
     lblHand_Change("lblCol", Index);
 }
@@ -210,22 +206,17 @@ void frmHandgrid::lblCol_Change(int Index) {
 void frmHandgrid::lblOverwrites_Change() {
     Control& label = c("lblOverwrites");
     const Control& score = c("lblScore");
-    FitWidth(label);
+    FitLabelToText(label);
     label.setLeft(score.left() + (score.width() - label.width()) / 2);
     label.setForeColor(OverWritesColour(label.caption()));
 }
 
-void frmHandgrid::lblCurrentScore_Change() {
-    Control& label = c("lblCurrentScore");
-    const Control& box = c("ScoreRectangle");
-    FitWidth(label);
-    label.setLeft(box.left() + (box.width() - label.width()) / 2);
-}
+void frmHandgrid::lblCurrentScore_Change() { CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle"); }
 
 void frmHandgrid::lblRound_Change() {
     Control& label = c("lblRound");
     const Control& surface = c("Surface");
-    FitWidth(label);
+    FitLabelToText(label);
     label.setLeft(surface.left() + surface.width() / 2 - label.width() / 2);
 }
 
@@ -233,7 +224,7 @@ void frmHandgrid::lblRound_Change() {
 void frmHandgrid::CenterTimeBonus() {
     Control& label = c("lblTimeBonus");
     const Control& surface = c("Surface");
-    FitWidth(label);
+    FitLabelToText(label);
     label.setLeft(static_cast<int>(surface.width() / 2.0 - label.width() / 1.3));
     label.setTop(static_cast<int>(surface.height() / 2.0 - label.height() / 1.3));
 }
