@@ -1,13 +1,25 @@
 // Small steps that every game window takes the same way, kept here once:
-// the pause button and the Clear High Scores entry.
+// the menus of a window without Take Score, the pause button and the Clear
+// High Scores entry.
 #pragma once
 
 #include <functional>
+#include <span>
 #include <string>
+#include <vector>
+
+#include "suite/gamewindow.h"
+#include "window/control.h"
 
 namespace ch {
 
 class Form;
+
+// The menus of a window whose File menu has no Take Score: "&File" with
+// mnuPlay, mnuPause, mnuExit; "&Options" with the common entries, the scoring
+// dialog's entry mnuCustom (`customCaption`), the time limit entries under
+// mnuTime and the back designs; "&Help".
+std::vector<ControlSpec> MenusWithoutTakeScore(std::span<const TimeEntry> times, const char* customCaption);
 
 // cmdPause as most games have it: "Pau&se" pauses (the shared controls, the
 // cards hidden through the game's ShowCards, the music stopped), "&Resume"

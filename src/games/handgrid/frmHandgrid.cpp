@@ -85,21 +85,6 @@ const ControlSpec kBoard[] = {
     {K::Label, "ScoringLabel", -1, 690, 2520, 4500, 495, ""},
 };
 
-std::vector<ControlSpec> Menus() {
-    std::vector<ControlSpec> m = {
-        {K::Menu, "mnuFile", -1, 0, 0, 0, 0, "&File"},
-        {K::Menu, "mnuPlay", -1, 0, 0, 0, 0, "&Play", "mnuFile"},
-        {K::Menu, "mnuPause", -1, 0, 0, 0, 0, "Pau&se", "mnuFile"},
-        {K::Menu, "mnuExit", -1, 0, 0, 0, 0, "E&xit", "mnuFile"},
-    };
-    for (const ControlSpec& s : OptionsMenuHead()) m.push_back(s);
-    m.push_back({K::Menu, "mnuCustom", -1, 0, 0, 0, 0, "&User Options...", "mnuOptions"});
-    for (const ControlSpec& s : OptionsMenuTail()) m.push_back(s);
-    for (const TimeEntry& e : kTimeEntries) m.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTime"});
-    for (const ControlSpec& s : HelpMenu()) m.push_back(s);
-    return m;
-}
-
 std::vector<ControlSpec> Layout() {
     std::vector<ControlSpec> specs;
     auto add = [&specs](std::span<const ControlSpec> part) { specs.insert(specs.end(), part.begin(), part.end()); };
@@ -114,7 +99,7 @@ std::vector<ControlSpec> Layout() {
         specs.push_back({K::Label, "lblCol", n, kColumnLefts[n - 1], 5895, kCardWidth, 255, "Nothing"});
     }
     add(kBoard);
-    add(Menus());
+    add(MenusWithoutTakeScore(kTimeEntries, "&User Options..."));
     return specs;
 }
 
