@@ -1,5 +1,6 @@
 #include "games/games.h"
 
+#include "games/handgrid/frmHandgrid.h"
 #include "games/sumfall/frmSumfall.h"
 #include "games/fivestack/frmFivestack.h"
 #include "games/blackrush/frmBlackrush.h"
@@ -16,6 +17,7 @@ void RegisterGameForms(Runtime& runtime) {
     RegisterBlackrush(runtime);
     RegisterSpirehold(runtime);
     RegisterDuopick(runtime);
+    RegisterHandgrid(runtime);
     RegisterTreyshift(runtime);
 }
 

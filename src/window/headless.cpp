@@ -41,8 +41,16 @@ WaitResult HeadlessPlatform::wait(InputEvent& event, int64_t deadline, bool poll
         pending_.reset();
         return WaitResult::Input;
     }
+    const auto queued = [this, &event] {
+        if (inputs_.empty()) return false;
+        event = inputs_.front();
+        inputs_.pop_front();
+        return true;
+    };
+    if (queued()) return WaitResult::Input;
     if (pollOnly || deadline <= now_) return WaitResult::Timeout;
     for (;;) {
+        if (queued()) return WaitResult::Input;
         if (advanceUntil_) {
             if (now_ < *advanceUntil_ && deadline <= *advanceUntil_) {
                 now_ = deadline;

@@ -38,6 +38,10 @@ public:
     void setFailureReporter(std::function<void(const std::string&)> report) { report_ = std::move(report); }
 
     void queueAnswer(MsgAnswer answer, int afterMs) { answers_.push_back({answer, afterMs}); }
+    // Input that reached the window system while the logic was busy: the next
+    // wait serves it ahead of the timers that fell due meanwhile, as a real
+    // message queue serves input before timer ticks.
+    void queueInput(const InputEvent& event) { inputs_.push_back(event); }
     // Lets MS ms of idle time pass the next time the loop waits.
     void advance(int64_t ms) { advanceUntil_ = now_ + ms; }
     void setWallClock(const DateTime& t) { wallOffset_ = ToMillis(t) - now_; }
@@ -74,6 +78,7 @@ private:
     int64_t wallOffset_;
     std::optional<int64_t> advanceUntil_;
     std::deque<QueuedAnswer> answers_;
+    std::deque<InputEvent> inputs_;
     std::optional<PendingAnswer> pending_;
     std::vector<std::string> sounds_;
     std::vector<MessageBox> boxes_;

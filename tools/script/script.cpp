@@ -364,6 +364,15 @@ std::optional<HeadlessPlatform::Step> ScriptRunner::execute(const std::vector<st
                                                : InputKind::Focus;
         return input(kind, t[1]);
     }
+    if (cmd == "queue") {
+        // An input made while the next one is still being served: it waits in
+        // the queue and comes before any timer that falls due meanwhile.
+        if (n < 2) error("queue takes an input command");
+        std::optional<Step> step = execute(std::vector<std::string>(t.begin() + 1, t.end()));
+        if (step && step->kind != Step::Kind::Input) error("queue takes an input command");
+        if (step) platform_.queueInput(step->event);
+        return std::nullopt;
+    }
     if (cmd == "type") {
         needs(3);
         auto step = input(InputKind::SetText, t[1]);

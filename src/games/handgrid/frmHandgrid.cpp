@@ -1,0 +1,316 @@
+// The Handgrid window itself: its layout and menus, the wiring of its events,
+// loading, closing and resizing, the settings file and the menu handlers.
+#include "games/handgrid/frmHandgrid.h"
+
+#include <memory>
+
+#include "games/handgrid/frmHandgridCustom.h"
+#include "suite/cards.h"
+#include "suite/common.h"
+#include "suite/dial.h"
+#include "suite/frmRules.h"
+#include "suite/highscores.h"
+#include "suite/sound.h"
+#include "suite/windowsteps.h"
+#include "window/basic.h"
+#include "window/runtime.h"
+
+namespace ch {
+
+using namespace handgrid;
+
+namespace {
+using K = ControlKind;
+
+const char* const kTable = "HandgridHighScores";
+const char* const kDefaultScore = "30000";
+const char* const kSettingsFile = "\\Handgrid.Ini";
+constexpr int kDesignWidth = 9570;
+constexpr int kDesignHeight = 7200;
+constexpr int kCardWidth = 1035;
+constexpr int kCardHeight = 1455;
+const int kColumnLefts[5] = {210, 1320, 2415, 3525, 4635};
+const int kRowTops[5] = {204, 1260, 2310, 3345, 4410};
+const int kRowLabelTops[5] = {645, 1770, 2850, 3990, 4965};
+
+const TimeEntry kTimeEntries[] = {
+    {"mnu30", 30, "&30 seconds"},   {"mnu45", 45, "&45 seconds"},   {"mnu60", 60, "&60 seconds  "},
+    {"mnu75", 75, "&75 seconds (default)"}, {"mnu90", 90, "&90 seconds"}, {"mnu105", 105, "&105 seconds"},
+    {"mnu120", 120, "&120 seconds"},
+};
+// A saved limit of 120 is written but not taken back at the next start.
+const std::span<const TimeEntry> kReadableTimes = std::span<const TimeEntry>(kTimeEntries).first(6);
+
+// The standing controls at Handgrid's places: the grid takes the left of the
+// window, the clock, score and counters stand in a column beside the buttons
+// at the right edge, above the deck stack and the hole.
+struct Place {
+    const char* name;
+    int left, top, width, height;
+};
+const Place kStandingPlaces[] = {
+    {"cmdPlay", 8250, 120, 1095, 375},
+    {"cmdPause", 8250, 555, 1095, 375},
+    {"cmdQuit", 8250, 990, 1095, 375},
+    {"lblTime", 7110, 120, 1005, 255},
+    {"TimerRectangle", 7110, 390, 1005, 1005},
+    {"Surface", 7155, 435, 915, 915},
+    {"TimerBevelSide", 8130, 405, 0, 1005},
+    {"TimerBevelBottom", 7125, 1410, 1005, 0},
+    {"lblRound", 7110, 1500, 1005, 255},
+    {"lblScore", 7110, 1860, 2235, 255},
+    {"ScoreRectangle", 7110, 2130, 2235, 450},
+    {"lblCurrentScore", 7155, 2190, 2145, 330},
+    {"ScoreBevelSide", 9360, 2145, 0, 450},
+    {"ScoreBevelBottom", 7125, 2595, 2235, 0},
+    {"lblHighScore", 7110, 3090, 2235, 255},
+    {"lblCurrentRound", 7110, 1500, 1005, 255},
+    {"RoundRectangle", 7110, 1500, 1005, 255},
+    {"RoundBevelSide", 7110, 1500, 0, 255},
+    {"RoundBevelBottom", 7110, 1500, 1005, 0},
+    {"lblMessage", 690, 1800, 4500, 615},
+    {"lblScoring", 690, 3060, 4500, 615},
+    {"frmSplash", 765, 600, 5520, 4440},
+    {"StatusBar1", 0, 6180, 9450, 330},
+};
+
+const ControlSpec kBoard[] = {
+    {K::Label, "lblTimeBonus", -1, 300, 300, 375, 300, "", "Surface"},
+    {K::Label, "lblOverwrites", -1, 7110, 2730, 2235, 255, ""},
+    {K::Label, "lblCards", -1, 7110, 4080, 2235, 255, "Cards remaining: 52"},
+    {K::Label, "lblPointsEarned", -1, 7110, 5895, 2235, 255, "Points Earned: 0"},
+    {K::Image, "CardStackPicture", -1, 7110, 4395, kCardWidth, kCardHeight},
+    {K::Image, "HoleCard", -1, 8310, 4395, kCardWidth, kCardHeight},
+    {K::Shape, "ScoringLabelOutline", -1, 540, 1560, 4800, 2400},
+    {K::Label, "ScoringLabel", -1, 690, 2520, 4500, 495, ""},
+};
+
+std::vector<ControlSpec> Layout() {
+    std::vector<ControlSpec> specs;
+    auto add = [&specs](std::span<const ControlSpec> part) { specs.insert(specs.end(), part.begin(), part.end()); };
+    add(StandingControls());
+    add(QuitButton());
+    add(ScoringLabel());
+    // Row by row, so that a lower row lies on the foot of the row above.
+    for (int i = 0; i < kCells; ++i)
+        specs.push_back({K::Image, "PlayCards", i, kColumnLefts[i % 5], kRowTops[i / 5], kCardWidth, kCardHeight});
+    for (int n = 1; n <= 5; ++n) {
+        specs.push_back({K::Label, "lblRow", n, 5895, kRowLabelTops[n - 1], 1155, 255, "Nothing"});
+        specs.push_back({K::Label, "lblCol", n, kColumnLefts[n - 1], 5895, kCardWidth, 255, "Nothing"});
+    }
+    add(kBoard);
+    add(MenusWithoutTakeScore(kTimeEntries, "&User Options..."));
+    return specs;
+}
+
+}  // namespace
+
+void RegisterHandgrid(Runtime& runtime) {
+    runtime.registerForm("frmHandgrid", [](Runtime& rt) { return std::make_unique<frmHandgrid>(rt); });
+    runtime.registerForm("frmHandgridCustom", [](Runtime& rt) { return std::make_unique<frmHandgridCustom>(rt); });
+    RegisterRules("Handgrid!", HandgridRules);
+}
+
+frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
+    setSize(kDesignWidth, kDesignHeight);
+    add(Layout());
+    for (const Place& p : kStandingPlaces) c(p.name).move(p.left, p.top, p.width, p.height);
+    PrepareStandingControls(*this);
+    SetTimer(*this, "Timer1", 1000, false);
+    SetTimer(*this, "Timer2", 200, true);
+    SetTimer(*this, "Timer3", 60000, true);
+    SetTimer(*this, "Timer4", 200, false);
+    c("cmdQuit").setToolTipText("Closes Handgrid");
+    c("lblRound").setCaption("Round: 1");
+    for (const char* name : {"lblCurrentRound", "RoundRectangle", "RoundBevelSide", "RoundBevelBottom"})
+        c(name).setVisible(false);
+    Control& scoring = c("ScoringLabel");
+    scoring.setFont("MS Sans Serif", 18, true);
+    scoring.setAlignment(2);
+    scoring.setForeColor(255);
+    scoring.setBackStyle(0);
+    scoring.setVisible(false);
+    c("ScoringLabelOutline").setVisible(false);
+    c("ScoringLabelOutline").setBorderStyle(1);
+    c("lblTimeBonus").setFont("MS Sans Serif", 12, true);
+    c("lblTimeBonus").setForeColor(0xFFFFFF);
+    c("lblTimeBonus").setBackStyle(0);
+    c("lblCurrentScore").setFont("MS Sans Serif", 12, true);
+    for (int i = 0; i < kCells; ++i) c("PlayCards", i).setVisible(false);
+    for (const char* name : {"CardStackPicture", "HoleCard"}) c(name).setVisible(false);
+    // The messages and the scoring figures stand over the grid.
+    for (const char* name : {"ScoringLabelOutline", "ScoringLabel", "lblMessage", "lblScoring"}) c(name).zOrderFront();
+    ShowControls(false, true);
+    ShowTimerFrame(false);
+    CenterScoringLabel();
+
+    BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
+    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
+    on(Ev::Resize, [this](EventArgs&) { Form_Resize(); });
+    on(Ev::QueryUnload, [this](EventArgs& e) { Form_QueryUnload(e); });
+    on("cmdPlay", Ev::Click, [this](EventArgs&) { Play(); });
+    on("mnuPlay", Ev::Click, [this](EventArgs&) { Play(); });
+    on("cmdPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    on("cmdQuit", Ev::Click, [this](EventArgs&) {
+        if (!TakingScore) this->runtime().unload(*this);
+    });
+    on("PlayCards", Ev::Click, [this](EventArgs& e) { PlayCards_Click(e.index); });
+    on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
+    on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
+    on("lblRow", Ev::Change, [this](EventArgs& e) { lblHand_Change("lblRow", e.index); });
+    on("lblCol", Ev::Change, [this](EventArgs& e) { lblCol_Change(e.index); });
+    on("lblOverwrites", Ev::Change, [this](EventArgs&) { lblOverwrites_Change(); });
+    on("lblCurrentScore", Ev::Change, [this](EventArgs&) { lblCurrentScore_Change(); });
+    on("lblRound", Ev::Change, [this](EventArgs&) { lblRound_Change(); });
+    on("lblTimeBonus", Ev::Change, [this](EventArgs&) { CenterTimeBonus(); });
+    for (const TimeEntry& entry : kTimeEntries)
+        on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
+    for (int design = 1; design <= 4; ++design)
+        on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
+    on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmHandgridCustom", true); });
+    on("mnuClear", Ev::Click, [this](EventArgs&) { ClearHighScores(*this, kTable, kDefaultScore); });
+
+    expose("PlayedCards", [this](int index, Value& out) {
+        if (index < 0 || index >= kCells) return false;
+        out = PlayedCards[static_cast<size_t>(index)];
+        return true;
+    });
+    expose("HandScores", [this](int index, Value& out) {
+        if (index < 0 || index >= kHands) return false;
+        out = static_cast<long long>(HandScores[static_cast<size_t>(index)]);
+        return true;
+    });
+    expose("RoundDeck", Expose(RoundDeck));
+    expose("HoleCards", Expose(HoleCards));
+    expose("DeckPosition", Expose(DeckPosition));
+    expose("HoleCount", Expose(HoleCount));
+    expose("CardsRemaining", Expose(CardsRemaining));
+    expose("OverWritesAllowed", Expose(OverWritesAllowed));
+    expose("OverWritesUsed", Expose(OverWritesUsed));
+    expose("RoundPoints", Expose(RoundPoints));
+    expose("HandSoundPlayed", Expose(HandSoundPlayed));
+    expose("CurrentRound", Expose(CurrentRound));
+    expose("BonusScore", Expose(BonusScore));
+}
+
+// ---- Loading and closing ---------------------------------------------------------
+
+SettingsLayout frmHandgrid::SettingsSections() {
+    const auto number32 = [](int32_t& target) {
+        return SettingsSection{"", [&target](const std::string& v) { target = CLng(Val(v)); },
+                               [&target] { return NumText(target); }};
+    };
+    const auto named = [](const char* name, SettingsSection section) {
+        section.name = name;
+        return section;
+    };
+    const auto hand = [&](const char* name, Hand h) { return named(name, number32(HandScores[static_cast<size_t>(h)])); };
+    SettingsLayout layout = {
+        TimeSection(*this, kReadableTimes),
+        PlaySoundsSection(*this),
+        PlayMusicSection(*this),
+        {"[Count Down Score]", [](const std::string& v) { CountDownScore = ParseBoolText(v); },
+         [] { return std::string(BoolText(CountDownScore)); }},
+        DeckSection(*this, kDeckMenus),
+        named("[Time Bonus]", number32(TimeBonus)),
+        named("[Bonus Score]", number32(BonusScore)),
+        hand("[Pair Score]", OnePair),
+        hand("[Two Pair Score]", TwoPair),
+        hand("[Trips Score]", Trips),
+        hand("[Flush Score]", Flush),
+        hand("[Full House Score]", FullHouse),
+        hand("[Straight Score]", Straight),
+        hand("[Four Score]", Four),
+        hand("[Straight Flush Score]", StraightFlush),
+        hand("[Royal Flush Score]", RoyalFlush),
+        {"[Over Writes]", [this](const std::string& v) { OverWritesAllowed = CInt(Val(v)); },
+         [this] { return NumText(OverWritesAllowed); }},
+    };
+    for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
+    return layout;
+}
+
+void frmHandgrid::Form_Load() {
+    BeginFormLoad(*this, kDefaultTimeLimit, "mnu75");
+    BonusScore = kDefaultBonusScore;
+    TimeBonus = kDefaultTimeBonus;
+    HandScores = kDefaultHandValues;
+    OverWritesAllowed = kDefaultOverWrites;
+    HandSoundPlayed = false;
+    ShowWelcome(*this);
+    ReadSettingsINI(kSettingsFile, SettingsSections());
+    CheckForCustom();
+    ShowOverWrites();
+    c("lblTimeBonus").setCaption(NumText(TimeLimit));
+    lblRound_Change();
+    CompleteFormLoad(*this, kTable, kDefaultScore);
+}
+
+// The clock runs on while the question stands.
+void frmHandgrid::Form_QueryUnload(EventArgs& args) {
+    if (!AskYesNo(CloseQuestion())) {
+        args.cancel = true;
+        return;
+    }
+    LeaveGameWindow(*this, kSettingsFile, SettingsSections());
+}
+
+void frmHandgrid::CheckForCustom() {
+    CustomScoringInUse = IsCustomScoring(HandScores, TimeBonus, BonusScore, OverWritesAllowed);
+}
+
+void frmHandgrid::ShowBonusGoal() {
+    c("StatusBar1").setPanel(1, "Make " + FormatScore(BonusScore) + " for bonus round.  ");
+}
+
+// The cards keep their size: a larger window moves the whole board to its
+// middle, the buttons to its right edge and the status bar to its foot.
+void frmHandgrid::Form_Resize() {
+    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+}
+
+void frmHandgrid::PlaceBoard() {
+    const int dx = (width() - kDesignWidth) / 2;
+    const int dy = (height() - kDesignHeight) / 2;
+    const auto at = [&](Control& control, int left, int top) {
+        control.setLeft(left + dx);
+        control.setTop(top + dy);
+    };
+    for (int i = 0; i < kCells; ++i) at(c("PlayCards", i), kColumnLefts[i % 5], kRowTops[i / 5]);
+    for (int n = 1; n <= 5; ++n) {
+        at(c("lblRow", n), 5895, kRowLabelTops[n - 1]);
+        c("lblCol", n).setTop(5895 + dy);
+        lblCol_Change(n);
+    }
+    for (const Place& p : kStandingPlaces) {
+        const std::string name = p.name;
+        if (name.rfind("cmd", 0) == 0 || name == "StatusBar1") continue;
+        at(c(name), p.left, p.top);
+    }
+    for (const ControlSpec& s : kBoard)
+        if (!*s.container && std::string(s.name) != "ScoringLabel") at(c(s.name), s.left, s.top);
+    for (const char* button : {"cmdPlay", "cmdPause", "cmdQuit"}) c(button).setLeft(width() - 1320);
+    const int clientHeight = height() - 690;
+    c("StatusBar1").move(0, clientHeight - 330, width() - 120, 330);
+    lblOverwrites_Change();
+    lblCurrentScore_Change();
+    lblRound_Change();
+    CenterScoringLabel();
+}
+
+// ---- Menus ----------------------------------------------------------------------------
+
+void frmHandgrid::mnuTime_Click(const char* menu) {
+    ChooseTimeLimit(*this, kTimeEntries, menu);
+    ShowHighScore(kTable, *this, kDefaultScore);
+}
+
+void frmHandgrid::mnuDeck_Click(int design) {
+    ChooseBackDesign(*this, kDeckMenus[design - 1]);
+    ShowStackPicture(StackKey);
+    DeckDesign = static_cast<int16_t>(design);
+}
+
+
+}  // namespace ch

@@ -1,0 +1,35 @@
+// Small steps that every game window takes the same way, kept here once:
+// the menus of a window without Take Score, the pause button and the Clear
+// High Scores entry.
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "suite/gamewindow.h"
+#include "window/control.h"
+
+namespace ch {
+
+class Form;
+
+// The menus of a window whose File menu has no Take Score: "&File" with
+// mnuPlay, mnuPause, mnuExit; "&Options" with the common entries, the scoring
+// dialog's entry mnuCustom (`customCaption`), the time limit entries under
+// mnuTime and the back designs; "&Help".
+std::vector<ControlSpec> MenusWithoutTakeScore(std::span<const TimeEntry> times, const char* customCaption);
+
+// cmdPause as most games have it: "Pau&se" pauses (the shared controls, the
+// cards hidden through the game's ShowCards, the music stopped), "&Resume"
+// resumes (the cards shown again, the music restarted from its beginning if
+// a game is running).
+void PauseOrResume(Form& window, const std::function<void(bool)>& showCards);
+
+// mnuClear: after a Yes to "This will clear all High Scores. Are You Sure?"
+// the table of the current limit gets its ten default lines and the high
+// score label shows its leader.
+void ClearHighScores(Form& window, const std::string& tableName, const std::string& defaultScore);
+
+}  // namespace ch
