@@ -10,11 +10,11 @@ trap 'rm -rf "$work"' EXIT
 prefix=$work/prefix
 failed=0
 cmake --install "$build" --prefix "$prefix" >/dev/null || { echo "install failed"; exit 1; }
-for f in bin/cardhaven share/applications/cardhaven.desktop share/icons/hicolor/256x256/apps/cardhaven.png \
+for f in bin/cardhaven share/applications/games.quillmark.cardhaven.desktop share/icons/hicolor/256x256/apps/cardhaven.png \
          share/cardhaven/Quillmark.MID share/cardhaven/Chord.wav share/cardhaven/Wingame.wav; do
     [ -e "$prefix/$f" ] || { echo "missing $f"; failed=1; }
 done
-grep -q '^Exec=cardhaven' "$prefix/share/applications/cardhaven.desktop" || { echo "desktop file has no Exec"; failed=1; }
+grep -q '^Exec=cardhaven' "$prefix/share/applications/games.quillmark.cardhaven.desktop" || { echo "desktop file has no Exec"; failed=1; }
 
 # Open and close the first game of the build, then close the selector.
 game=$("$prefix/bin/cardhaven" --list-games | head -n 1)
