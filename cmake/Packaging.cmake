@@ -65,13 +65,13 @@ set(CPACK_PACKAGE_NAME cardhaven)
 set(CPACK_PACKAGE_VENDOR Quillmark)
 set(CPACK_PACKAGE_CONTACT "Quillmark <cardhaven@quillmark.games>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "seven timed arcade card games")
+# The summary above is the package's synopsis; CPack indents these lines.
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-    "seven timed arcade card games
- Quillmark's Card Haven offers seven single-player card games behind one
- selector: Sumfall, Fivestack, Blackrush, Spirehold, Duopick, Handgrid and
- Treyshift. Each is played in rounds against the clock, the time left is paid
- out as points, and a high score earns a bonus round and a place in the
- game's high score table. Saved Sumfall games open from the file manager.")
+    "Quillmark's Card Haven offers seven single-player card games behind one
+selector: Sumfall, Fivestack, Blackrush, Spirehold, Duopick, Handgrid and
+Treyshift. Each is played in rounds against the clock, the time left is paid
+out as points, and a high score earns a bonus round and a place in the
+game's high score table. Saved Sumfall games open from the file manager.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

@@ -47,6 +47,12 @@ grep -qx "Package: cardhaven" "$out/control" || fail "package name"
 grep -qx "Version: $version" "$out/control" || fail "package version is not $version"
 grep -qx "Section: games" "$out/control" || fail "section is not games"
 grep -qx "Architecture: $(dpkg --print-architecture)" "$out/control" || fail "architecture"
+# A synopsis, then the long description as flowing text: lines indented by
+# more than one blank would be shown verbatim.
+dpkg-deb -f "$deb" Description >"$out/description"
+[ "$(sed -n 1p "$out/description")" = "seven timed arcade card games" ] || fail "synopsis: $(sed -n 1p "$out/description")"
+[ "$(wc -l <"$out/description")" -ge 3 ] || fail "no long description"
+sed 1d "$out/description" | grep -v '^ [^ ]' && fail "long description lines not indented by one blank"
 depends=$(sed -n 's/^Depends: //p' "$out/control")
 for dep in libqt6core6 libqt6gui6 libqt6widgets6 libqt6multimedia6 qt6-qpa-plugins libfluidsynth3 \
            timgm6mb-soundfont libc6 libstdc\\+\\+6; do
