@@ -83,7 +83,9 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${CARDHAVEN_WEB_URL})
 # plugin, and the music its General MIDI soundfont.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, libfluidsynth3, timgm6mb-soundfont")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils")
+# xdg-open for the web site button, and Qt's Wayland platform for sessions
+# without X.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 include(CPack)
 

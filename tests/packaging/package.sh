@@ -70,4 +70,6 @@ for size in 16 256; do
     w=$(od -An -tu1 -j16 -N8 "$png" | awk '{print $3*256+$4, $7*256+$8}')
     [ "$w" = "$size $size" ] || fail "the ${size}x$size icon is $w"
 done
+# Only the package stays for the next test.
+rm -rf "$out/root" "$out/_CPack_Packages"
 exit $failed
