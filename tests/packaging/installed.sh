@@ -3,7 +3,8 @@
 # Unpacks the package tests/packaging/package.sh left in OUTDIR into a
 # scratch root and starts the program from there under a virtual X server, the
 # way a file manager opens a saved game: the Exec line of the installed
-# .desktop file with %f a saved game in a folder whose name has a blank. The
+# .desktop file with %f a saved game in a folder whose name has a blank, once
+# the desktop's caches say that the program opens such a file. The
 # selector comes up, Sumfall opens the saved game, and closing both ends the
 # program cleanly, with the player's files under ~/.local/share/cardhaven.
 set -u
@@ -18,6 +19,15 @@ debs=("$out"/cardhaven_*.deb)
 [ -f "${debs[0]}" ] || { fail "no package in $out"; exit 1; }
 root=$work/root
 dpkg -x "${debs[0]}" "$root" || { fail "dpkg -x"; exit 1; }
+
+# The caches a desktop builds from the installed files: a .sfl file is a
+# saved game, and a saved game opens with the program.
+update-mime-database "$root/usr/share/mime" >"$work/log" 2>&1 || fail "update-mime-database: $(cat "$work/log")"
+type=$(sed -n 's/^[0-9]*:\([^:]*\):\*\.sfl$/\1/p' "$root/usr/share/mime/globs2")
+[ -n "$type" ] || fail "the installed MIME database has no type for *.sfl"
+update-desktop-database "$root/usr/share/applications" >"$work/log" 2>&1 || fail "update-desktop-database: $(cat "$work/log")"
+grep -qx "$type=games.quillmark.cardhaven.desktop;" "$root/usr/share/applications/mimeinfo.cache" ||
+    fail "$type does not open with the program: $(cat "$root/usr/share/applications/mimeinfo.cache")"
 
 mkdir -p "$work/My Games" "$work/home"
 cp "$src/tests/scenarios/command/cleo.sfl" "$work/My Games/cleo.sfl"
