@@ -1,12 +1,14 @@
 # The program's version on its command line, and for the desktop program what
 # `cmake --install` puts where and the Debian package CPack makes of it:
-#   bin/cardhaven                                   the program
+#   games/cardhaven                                 the program, where a
+#                                                   Debian system keeps games
 #   share/cardhaven/                                its sounds and music
 #   share/applications/games.quillmark.cardhaven.desktop
 #   share/metainfo/games.quillmark.cardhaven.metainfo.xml
 #   share/mime/packages/games.quillmark.cardhaven.xml   saved games (.sfl)
 #   share/icons/hicolor/NxN/apps/cardhaven.png      drawn by the program
 #   share/man/man6/cardhaven.6.gz
+#   share/doc/cardhaven/copyright, changelog.gz
 # Included at the end of CMakeLists.txt, once the targets exist.
 
 set_property(SOURCE app/main.cpp tools/script/main.cpp APPEND
@@ -17,6 +19,7 @@ if(NOT CARDHAVEN_QT)
 endif()
 
 include(GNUInstallDirs)
+set(CARDHAVEN_INSTALL_BINDIR games CACHE STRING "Folder under the prefix the program is installed into")
 set(CARDHAVEN_APP_ID games.quillmark.cardhaven)
 set(CARDHAVEN_PACKAGING_DIR ${PROJECT_SOURCE_DIR}/packaging)
 
@@ -44,9 +47,13 @@ add_custom_command(OUTPUT ${PROJECT_BINARY_DIR}/cardhaven.6.gz
                    COMMAND gzip -9nf -k ${PROJECT_BINARY_DIR}/cardhaven.6
                    DEPENDS ${PROJECT_BINARY_DIR}/cardhaven.6
                    COMMENT "Compressing the manual page")
-add_custom_target(cardhaven_manual ALL DEPENDS ${PROJECT_BINARY_DIR}/cardhaven.6.gz)
+add_custom_command(OUTPUT ${PROJECT_BINARY_DIR}/changelog.gz
+                   COMMAND gzip -9n -c ${CARDHAVEN_PACKAGING_DIR}/changelog > ${PROJECT_BINARY_DIR}/changelog.gz
+                   DEPENDS ${CARDHAVEN_PACKAGING_DIR}/changelog
+                   COMMENT "Compressing the changelog")
+add_custom_target(cardhaven_manual ALL DEPENDS ${PROJECT_BINARY_DIR}/cardhaven.6.gz ${PROJECT_BINARY_DIR}/changelog.gz)
 
-install(TARGETS cardhaven RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS cardhaven RUNTIME DESTINATION ${CARDHAVEN_INSTALL_BINDIR})
 install(FILES ${CARDHAVEN_SOUND_FILES} DESTINATION ${CMAKE_INSTALL_DATADIR}/cardhaven)
 install(FILES ${CARDHAVEN_PACKAGING_DIR}/${CARDHAVEN_APP_ID}.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
@@ -56,6 +63,8 @@ install(FILES ${CARDHAVEN_PACKAGING_DIR}/cardhaven-mime.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages RENAME ${CARDHAVEN_APP_ID}.xml)
 install(DIRECTORY ${PROJECT_BINARY_DIR}/icons/ DESTINATION ${CMAKE_INSTALL_DATADIR}/icons)
 install(FILES ${PROJECT_BINARY_DIR}/cardhaven.6.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
+install(FILES ${CARDHAVEN_PACKAGING_DIR}/copyright ${PROJECT_BINARY_DIR}/changelog.gz
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/cardhaven)
 
 # The Debian package: cmake --build BUILD --target package, or cpack in BUILD.
 # The desktop, icon and MIME caches are brought up to date by the triggers of

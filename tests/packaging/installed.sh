@@ -36,7 +36,7 @@ read -r -a words <<<"$exec_line"
 command=()
 for word in "${words[@]}"; do
     case $word in
-        cardhaven) command+=("$root/usr/bin/cardhaven") ;;
+        cardhaven) command+=("$root/usr/games/cardhaven") ;;
         %f) command+=("$work/My Games/cleo.sfl") ;;
         *) command+=("$word") ;;
     esac

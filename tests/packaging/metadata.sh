@@ -2,8 +2,8 @@
 # tests/packaging/metadata.sh SOURCEDIR BUILDDIR
 # The files that present the program to a desktop and a distribution: the
 # .desktop file and the AppStream metainfo pass their validators, name the
-# same saved game type as the MIME description, the metainfo's newest release
-# is the program's version, a saved game written by Sumfall is recognised by
+# same saved game type as the MIME description, the newest release in the
+# metainfo and in the package's changelog is the program's version, a saved game written by Sumfall is recognised by
 # its name and its first bytes, and the manual page formats cleanly and tells
 # of every option --help lists.
 set -u
@@ -34,6 +34,8 @@ grep -qx 'Exec=cardhaven %f' "$desktop" || fail "the desktop file does not hand 
 version=$("$build/cardhaven-script" --version | sed -n 's/^cardhaven-script //p')
 newest=$(sed -n 's/.*<release version="\([^"]*\)".*/\1/p' "$metainfo" | head -n 1)
 [ "$newest" = "$version" ] || fail "the newest release in the metainfo is '$newest', the program is '$version'"
+logged=$(dpkg-parsechangelog -l "$src/packaging/changelog" -S Version 2>&1)
+[ "$logged" = "$version" ] || fail "the newest entry of packaging/changelog is '$logged', the program is '$version'"
 for shot in $(sed -n 's#.*<image>.*/screenshots/\([^<]*\)</image>.*#\1#p' "$metainfo"); do
     [ -f "$src/docs/screenshots/$shot" ] || fail "the metainfo shows $shot, which docs/screenshots lacks"
 done

@@ -21,7 +21,9 @@ echo "$(basename "$deb"): $(du -k "$deb" | cut -f1) kB"
 # The files, where a Debian system looks for them.
 dpkg-deb -c "$deb" | awk '{print $6}' | sed 's#^\./#/#' >"$out/contents"
 id=games.quillmark.cardhaven
-wanted=(/usr/bin/cardhaven
+wanted=(/usr/games/cardhaven
+        /usr/share/doc/cardhaven/copyright
+        /usr/share/doc/cardhaven/changelog.gz
         /usr/share/applications/$id.desktop
         /usr/share/metainfo/$id.metainfo.xml
         /usr/share/mime/packages/$id.xml
@@ -62,9 +64,9 @@ done
 # The binary is stripped; the icons are PNGs of their size.
 mkdir "$out/root"
 dpkg-deb -x "$deb" "$out/root"
-file_out=$(od -An -c -N4 "$out/root/usr/bin/cardhaven" | tr -d ' ')
-[ "$file_out" = '177ELF' ] || fail "/usr/bin/cardhaven is not an ELF program"
-readelf -S "$out/root/usr/bin/cardhaven" | grep -q '\.debug_info' && fail "/usr/bin/cardhaven is not stripped"
+file_out=$(od -An -c -N4 "$out/root/usr/games/cardhaven" | tr -d ' ')
+[ "$file_out" = '177ELF' ] || fail "/usr/games/cardhaven is not an ELF program"
+readelf -S "$out/root/usr/games/cardhaven" | grep -q '\.debug_info' && fail "/usr/games/cardhaven is not stripped"
 for size in 16 256; do
     png=$out/root/usr/share/icons/hicolor/${size}x${size}/apps/cardhaven.png
     w=$(od -An -tu1 -j16 -N8 "$png" | awk '{print $3*256+$4, $7*256+$8}')
