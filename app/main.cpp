@@ -1,7 +1,8 @@
-// cardhaven [--home DIR] [ARGUMENTS...]
+// cardhaven [--home DIR] [--] [SAVED-GAME]
 // The desktop program: the Qt thread shows the windows and plays the sounds,
-// the logic runs on a thread of its own. Arguments other than the options
-// below form the command line the game windows see.
+// the logic runs on a thread of its own. Arguments that are not options form
+// the command line the game windows see (Sumfall opens it as a saved game);
+// after "--" every argument is one of them.
 //
 // Debug options: --data DIR (wave and music files), --script FILE (see
 // src/qt/driver.h), --shots DIR (where the script's shots go), --list-games
@@ -16,6 +17,7 @@
 #include <QPainter>
 #include <QStandardPaths>
 #include <QTextStream>
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -49,21 +51,62 @@ struct Options {
     double sheetRatio = 1;
 };
 
-void Usage() {
-    std::cerr << "usage: cardhaven [--home DIR] [ARGUMENTS...]\n";
+#ifndef CARDHAVEN_VERSION
+#define CARDHAVEN_VERSION "unknown"
+#endif
+
+constexpr char kUsage[] = "usage: cardhaven [--home DIR] [--help] [--version] [--] [SAVED-GAME]\n";
+
+[[noreturn]] void Usage(const std::string& complaint) {
+    std::cerr << "cardhaven: " << complaint << "\n" << kUsage << "Try 'cardhaven --help' for more.\n";
     std::exit(2);
+}
+
+void PrintHelp() {
+    std::cout << kUsage
+              << "Quillmark's Card Haven: seven timed arcade card games behind one selector.\n"
+                 "\n"
+                 "  --home DIR     keep settings, high score tables and saved games in DIR\n"
+                 "                 (by default the program's folder when it is writable and\n"
+                 "                 not installed, else ~/.local/share/cardhaven)\n"
+                 "  --help         print this help and exit\n"
+                 "  --version      print the version and exit\n"
+                 "\n"
+                 "A saved Sumfall game (a .sfl file) named on the command line is opened when\n"
+                 "the Sumfall window first comes up.\n"
+                 "\n"
+                 "For testing: --data DIR, --script FILE, --shots DIR, --list-games,\n"
+                 "--report-startup, --write-icon FILE SIZE, --card-sheet FILE RATIO.\n";
+}
+
+double PositiveNumber(const std::string& option, const std::string& text) {
+    char* end = nullptr;
+    const double n = std::strtod(text.c_str(), &end);
+    if (text.empty() || *end != '\0' || !(n > 0)) Usage(option + " needs a positive number, not '" + text + "'");
+    return n;
 }
 
 Options ParseArguments(int argc, char** argv) {
     Options o;
     std::string command;
+    bool optionsEnded = false;
     for (int i = 1; i < argc; ++i) {
         const std::string arg = argv[i];
         auto value = [&]() -> std::string {
-            if (i + 1 >= argc) Usage();
+            if (i + 1 >= argc) Usage(arg + " needs a value");
             return argv[++i];
         };
-        if (arg == "--home") o.suite.appPath = value();
+        if (optionsEnded || arg.empty() || arg[0] != '-' || arg == "-") {
+            if (!command.empty()) command += ' ';
+            command += arg;
+        } else if (arg == "--") optionsEnded = true;
+        else if (arg == "--help" || arg == "-h") {
+            PrintHelp();
+            std::exit(0);
+        } else if (arg == "--version") {
+            std::cout << "cardhaven " CARDHAVEN_VERSION "\n";
+            std::exit(0);
+        } else if (arg == "--home") o.suite.appPath = value();
         else if (arg == "--data") o.suite.dataPath = value();
         else if (arg == "--script") o.script = QString::fromStdString(value());
         else if (arg == "--shots") o.shots = QString::fromStdString(value());
@@ -71,14 +114,11 @@ Options ParseArguments(int argc, char** argv) {
         else if (arg == "--report-startup") o.reportStartup = true;
         else if (arg == "--write-icon") {
             o.iconFile = QString::fromStdString(value());
-            o.iconSize = std::atoi(value().c_str());
+            o.iconSize = static_cast<int>(PositiveNumber(arg, value()));
         } else if (arg == "--card-sheet") {
             o.sheetFile = QString::fromStdString(value());
-            o.sheetRatio = std::atof(value().c_str());
-        } else {
-            if (!command.empty()) command += ' ';
-            command += arg;
-        }
+            o.sheetRatio = PositiveNumber(arg, value());
+        } else Usage("unknown option " + arg);
     }
     o.suite.commandLine = command;
     return o;
@@ -116,8 +156,49 @@ std::string DefaultData(const std::string& programFolder) {
     return programFolder + "/data";
 }
 
-// Messages of Qt's audio back end where there is no audio device.
+// The private runtime folder made where the session has none, removed at exit.
+std::string g_runtimeDir;
+
+void RemoveRuntimeDir() {
+    if (g_runtimeDir.empty()) return;
+    std::error_code ec;
+    std::filesystem::remove_all(g_runtimeDir, ec);
+    g_runtimeDir.clear();
+}
+
+// Set while the application object opens its display.
+std::atomic<bool> g_openingDisplay{false};
+
+[[noreturn]] void NoDisplay() {
+    const char* display = std::getenv("DISPLAY");
+    if (!display || !*display) display = std::getenv("WAYLAND_DISPLAY");
+    if (display && *display)
+        std::fprintf(stderr, "cardhaven: cannot open the display %s\n", display);
+    else
+        std::fprintf(stderr, "cardhaven: no display to show the windows on (DISPLAY is not set)\n");
+    RemoveRuntimeDir();
+    std::_Exit(1);
+}
+
+// Without QT_QPA_PLATFORM the windows go to an X or Wayland display, and one
+// must be named.
+bool DisplayNamed() {
+    const char* platform = std::getenv("QT_QPA_PLATFORM");
+    if (platform && *platform) return true;
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY"}) {
+        const char* value = std::getenv(name);
+        if (value && *value) return true;
+    }
+    return false;
+}
+
+// Messages of Qt's audio back end where there is no audio device are dropped;
+// a display that cannot be opened ends the program with one line of its own.
 void QuietHandler(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (g_openingDisplay) {
+        if (type == QtFatalMsg) NoDisplay();
+        if (text.contains(QLatin1String("display")) || text.contains(QLatin1String("platform plugin"))) return;
+    }
     static const char* const kDropped[] = {"No audio device", "audio device", "pulseaudio", "PulseAudio",
                                            "QAudioSink", "ALSA"};
     for (const char* dropped : kDropped)
@@ -163,21 +244,32 @@ int main(int argc, char** argv) {
     Options options = ParseArguments(argc, argv);
     if (options.listGames) return ListGames();
 
+    // The icon and the card sheet are drawn without a window.
+    if (!options.iconFile.isEmpty() || !options.sheetFile.isEmpty()) setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    if (!DisplayNamed()) NoDisplay();
+
     // Qt's audio wants a runtime folder; a private one where the session has none.
-    std::string runtimeDir;
     if (!std::getenv("XDG_RUNTIME_DIR")) {
         std::string pattern = (std::filesystem::temp_directory_path() / "cardhaven-run-XXXXXX").string();
         if (mkdtemp(pattern.data())) {
-            runtimeDir = pattern;
-            setenv("XDG_RUNTIME_DIR", runtimeDir.c_str(), 1);
+            g_runtimeDir = pattern;
+            setenv("XDG_RUNTIME_DIR", g_runtimeDir.c_str(), 1);
         }
     }
+    struct RuntimeDirCleanup {
+        ~RuntimeDirCleanup() { RemoveRuntimeDir(); }
+    } runtimeDirCleanup;
     qInstallMessageHandler(QuietHandler);
 
-    QApplication app(argc, argv);
+    // Qt sees no arguments: they are all ours, and a saved game's name must
+    // not be taken for one of Qt's options.
+    int qtArgc = 1;
+    g_openingDisplay = true;
+    QApplication app(qtArgc, argv);
+    g_openingDisplay = false;
     QApplication::setApplicationName(QStringLiteral("cardhaven"));
     QApplication::setApplicationDisplayName(QStringLiteral("Quillmark's Card Haven"));
-    QApplication::setDesktopFileName(QStringLiteral("cardhaven"));
+    QApplication::setDesktopFileName(QStringLiteral("games.quillmark.cardhaven"));
     QApplication::setQuitOnLastWindowClosed(false);
 
     if (!options.iconFile.isEmpty()) {
@@ -249,10 +341,6 @@ int main(int argc, char** argv) {
         platform.requestStop();
         logic.join();
         driver.reset();
-    }
-    if (!runtimeDir.empty()) {
-        std::error_code ec;
-        std::filesystem::remove_all(runtimeDir, ec);
     }
     return status;
 }

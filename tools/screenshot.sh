@@ -3,14 +3,22 @@
 # Starts the desktop program under a virtual X server at pixel ratio 1 and 2,
 # drives it with a script (src/qt/driver.h) and writes PNGs into OUTDIR
 # (default screenshots/): the selector, and each game window of this build
-# idle and in play, plus the sheet of all card pictures.
+# idle and in play, plus the sheet of all card pictures. BUILDDIR (default
+# build/) is built first when it holds no program.
 set -euo pipefail
 here=$(cd "$(dirname "$0")/.." && pwd)
 out=$(mkdir -p "${1:-screenshots}" && cd "${1:-screenshots}" && pwd)
-build=$(cd "${2:-$here/build}" && pwd)
+build=${2:-$here/build}
+# A missing program is built first, as ./run.sh builds it.
+if [ ! -x "$build/cardhaven" ]; then
+    build=$(realpath -m "$build")
+    (cd "$here" && source tools/setup.sh && cardhaven_install &&
+        cardhaven_build "$build" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCARDHAVEN_TESTS=OFF)
+fi
+build=$(cd "$build" && pwd)
 program=$build/cardhaven
 if [ ! -x "$program" ]; then
-    echo "no $program: build it first (./run.sh builds into build/)" >&2
+    echo "no $program: $build was configured with -DCARDHAVEN_QT=OFF" >&2
     exit 1
 fi
 work=$(mktemp -d)

@@ -10,14 +10,14 @@ trap 'rm -rf "$work"' EXIT
 prefix=$work/prefix
 failed=0
 cmake --install "$build" --prefix "$prefix" >/dev/null || { echo "install failed"; exit 1; }
-for f in bin/cardhaven share/applications/cardhaven.desktop share/icons/hicolor/256x256/apps/cardhaven.png \
+for f in games/cardhaven share/applications/games.quillmark.cardhaven.desktop share/icons/hicolor/256x256/apps/cardhaven.png \
          share/cardhaven/Quillmark.MID share/cardhaven/Chord.wav share/cardhaven/Wingame.wav; do
     [ -e "$prefix/$f" ] || { echo "missing $f"; failed=1; }
 done
-grep -q '^Exec=cardhaven' "$prefix/share/applications/cardhaven.desktop" || { echo "desktop file has no Exec"; failed=1; }
+grep -q '^Exec=cardhaven' "$prefix/share/applications/games.quillmark.cardhaven.desktop" || { echo "desktop file has no Exec"; failed=1; }
 
 # Open and close the first game of the build, then close the selector.
-game=$("$prefix/bin/cardhaven" --list-games | head -n 1)
+game=$("$prefix/games/cardhaven" --list-games | head -n 1)
 {
     echo "wait 600"
     if [ -n "$game" ]; then
@@ -35,7 +35,7 @@ game=$("$prefix/bin/cardhaven" --list-games | head -n 1)
 mkdir -p "$work/home"
 unset XDG_RUNTIME_DIR XDG_DATA_HOME
 export LSAN_OPTIONS="suppressions=$(cd "$(dirname "$0")" && pwd)/lsan.supp:print_suppressions=0"
-(cd / && HOME=$work/home timeout 60 xvfb-run -a "$prefix/bin/cardhaven" --script "$work/script") 2>"$work/err"
+(cd / && HOME=$work/home timeout 60 xvfb-run -a "$prefix/games/cardhaven" --script "$work/script") 2>"$work/err"
 status=$?
 [ "$status" -eq 0 ] || { echo "exit status $status"; failed=1; }
 [ -s "$work/err" ] && { echo "standard error:"; cat "$work/err"; failed=1; }
@@ -44,5 +44,5 @@ if [ -n "$game" ] && ! ls "$work/home/.local/share/cardhaven/"*.Ini >/dev/null 2
     echo "the game's settings file is not in ~/.local/share/cardhaven"
     failed=1
 fi
-[ -z "$(ls "$prefix/bin")" ] || [ "$(ls "$prefix/bin")" = cardhaven ] || { echo "files written beside the program"; failed=1; }
+[ "$(ls "$prefix/games")" = cardhaven ] || { echo "files written beside the program"; failed=1; }
 exit $failed

@@ -18,6 +18,38 @@
 
 namespace fs = std::filesystem;
 
+#ifndef CARDHAVEN_VERSION
+#define CARDHAVEN_VERSION "unknown"
+#endif
+
+namespace {
+
+constexpr char kUsage[] = "usage: cardhaven-script [--home DIR] [--data DIR] [--command TEXT] [--trace] [SCRIPT]\n";
+
+[[noreturn]] void Usage(const std::string& complaint) {
+    std::cerr << "cardhaven-script: " << complaint << "\n" << kUsage;
+    std::exit(2);
+}
+
+void PrintHelp() {
+    std::cout << kUsage
+              << "Runs Card Haven without a display, driven by a script read from SCRIPT or,\n"
+                 "without one or with -, from standard input.\n"
+                 "\n"
+                 "  --home DIR      folder of settings, high score tables and saved games\n"
+                 "                  (a fresh temporary folder by default)\n"
+                 "  --data DIR      folder of the wave and music files\n"
+                 "  --command TEXT  the command line the game windows see\n"
+                 "  --trace         print each event as it is served\n"
+                 "  --help          print this help and exit\n"
+                 "  --version       print the version and exit\n"
+                 "\n"
+                 "Exit status: 0 when every expectation held, 1 after a failed one, 2 after an\n"
+                 "error in the script or on the command line.\n";
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
     ch::SuiteOptions options;
     std::string scriptPath;
@@ -25,20 +57,22 @@ int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         const std::string arg = argv[i];
         auto value = [&]() -> std::string {
-            if (i + 1 >= argc) {
-                std::cerr << "cardhaven-script: " << arg << " needs a value\n";
-                std::exit(2);
-            }
+            if (i + 1 >= argc) Usage(arg + " needs a value");
             return argv[++i];
         };
-        if (arg == "--home") options.appPath = value();
+        if (arg == "--help" || arg == "-h") {
+            PrintHelp();
+            return 0;
+        } else if (arg == "--version") {
+            std::cout << "cardhaven-script " CARDHAVEN_VERSION "\n";
+            return 0;
+        } else if (arg == "--home") options.appPath = value();
         else if (arg == "--data") options.dataPath = value();
         else if (arg == "--command") options.commandLine = value();
         else if (arg == "--trace") trace = true;
-        else if (!arg.empty() && arg[0] == '-' && arg != "-") {
-            std::cerr << "usage: cardhaven-script [--home DIR] [--data DIR] [--command TEXT] [--trace] [SCRIPT]\n";
-            return 2;
-        } else scriptPath = arg;
+        else if (!arg.empty() && arg[0] == '-' && arg != "-") Usage("unknown option " + arg);
+        else if (!scriptPath.empty()) Usage("one script at a time");
+        else scriptPath = arg;
     }
 
     std::ifstream file;
