@@ -336,6 +336,11 @@ void ConfirmCloseGameWindow(Form& window, EventArgs& args, bool pausedFirst, con
     LeaveGameWindow(window, settingsFile, settings);
 }
 
+void ConfirmCloseGameWindow(Form& window, EventArgs& args, const std::string& settingsFile,
+                            const SettingsLayout& settings) {
+    ConfirmCloseGameWindow(window, args, false, {}, settingsFile, settings);
+}
+
 void ShowModalPaused(Form& window, const std::string& formName, const char* messageLabel) {
     RunPaused(window, [&window, &formName] { window.runtime().show(formName, true); }, messageLabel);
 }

@@ -190,6 +190,9 @@ void LeaveGameWindow(Form& window, const std::string& settingsFile, const Settin
 // leaves the window (LeaveGameWindow).
 void ConfirmCloseGameWindow(Form& window, EventArgs& args, bool pausedFirst, const std::function<void()>& pauseHandler,
                             const std::string& settingsFile, const SettingsLayout& settings);
+// The same for a window that lets its clock run while the question stands.
+void ConfirmCloseGameWindow(Form& window, EventArgs& args, const std::string& settingsFile,
+                            const SettingsLayout& settings);
 
 // Around a modal window (rules, about, Hall of Fame): a running game that is
 // neither paused nor over (by `messageLabel`'s caption) is paused by a click

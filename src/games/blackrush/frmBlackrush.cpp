@@ -346,21 +346,12 @@ void frmBlackrush::Form_Load() {
     ShowWelcome(*this);
     c("StatusBar1").setPanel(1, "Welcome to " + AppTitle + "!");
     ReadSettingsINI(kSettingsFileName, SettingsSections());
-    GameStartTime = runtime().platform().wallClock();
-    ShowSplashCaptions(*this);
-    CentreOnScreen(*this);
-    InitTimeDial(*this);
-    ShowHighScore(kTableName, *this, kTableTopScore);
+    CompleteFormLoad(*this, kTableName, kTableTopScore);
     CheckForCustom();
-    setMousePointer(0);
 }
 
 void frmBlackrush::Form_QueryUnload(EventArgs& args) {
-    if (!AskYesNo(CloseQuestion())) {
-        args.cancel = true;
-        return;
-    }
-    LeaveGameWindow(*this, kSettingsFileName, SettingsSections());
+    ConfirmCloseGameWindow(*this, args, kSettingsFileName, SettingsSections());
 }
 
 // The cards keep their size: a resize centres the board in the window and

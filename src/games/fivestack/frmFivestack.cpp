@@ -313,14 +313,9 @@ void frmFivestack::Form_Load() {
     raise(&c("mnu60"), Ev::Click);
     ReadSettingsINI(kSettingsFile, SettingsSections());
     TimeBonusDecay = fivestack::TimeBonusDecay(TimeBonusMax, TimeBonusMin, TimeLimit);
-    GameStartTime = runtime().platform().wallClock();
-    ShowSplashCaptions(*this);
-    CentreOnScreen(*this);
-    InitTimeDial(*this);
-    ShowHighScore(kTable, *this, kDefaultTopScore);
+    CompleteFormLoad(*this, kTable, kDefaultTopScore);
     CheckForCustom();
     if (PassesLeft == 0) c("cmdPass").setEnabled(false);
-    setMousePointer(0);
 }
 
 // A game in progress is paused before the question and goes on after a No.

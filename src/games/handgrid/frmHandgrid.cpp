@@ -249,11 +249,7 @@ void frmHandgrid::Form_Load() {
 
 // The clock runs on while the question stands.
 void frmHandgrid::Form_QueryUnload(EventArgs& args) {
-    if (!AskYesNo(CloseQuestion())) {
-        args.cancel = true;
-        return;
-    }
-    LeaveGameWindow(*this, kSettingsFile, SettingsSections());
+    ConfirmCloseGameWindow(*this, args, kSettingsFile, SettingsSections());
 }
 
 void frmHandgrid::CheckForCustom() {

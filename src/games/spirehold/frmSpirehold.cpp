@@ -237,21 +237,12 @@ SettingsLayout frmSpirehold::SettingsSections() {
 }
 
 void frmSpirehold::Form_Load() {
-    setMousePointer(11);
-    c("Timer4").setEnabled(true);
-    c("Timer1").setEnabled(false);
-    TimeLimit = kDefaultTimeLimit;
-    PlaySounds = true;
-    PlayMusic = false;
-    DeckDesign = 1;
-    CountDownScore = true;
+    BeginFormLoad(*this, kDefaultTimeLimit, "mnu45");
     CardValue = kDefaultCardValue;
     BonusScore = kDefaultBonusScore;
     HighRunBonus = kDefaultHighRunBonus;
     TowerBonus = kDefaultTowerBonus;
     TimeBonus = kDefaultTimeBonus;
-    c("mnu45").setChecked(true);
-    c("mnuSounds").setChecked(true);
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
     CheckForCustom();
@@ -259,11 +250,7 @@ void frmSpirehold::Form_Load() {
 }
 
 void frmSpirehold::Form_QueryUnload(EventArgs& args) {
-    if (!AskYesNo(CloseQuestion())) {
-        args.cancel = true;
-        return;
-    }
-    LeaveGameWindow(*this, kSettingsFile, SettingsSections());
+    ConfirmCloseGameWindow(*this, args, kSettingsFile, SettingsSections());
 }
 
 void frmSpirehold::CheckForCustom() {

@@ -303,12 +303,7 @@ void frmSumfall::Form_QueryUnload(EventArgs& args) {
     const bool pauseFirst = GameInProgress && c("cmdPause").caption() == kPauseCaption &&
                             c("lblMessage").caption() != kGameOver;
     if (pauseFirst) cmdPause_Click();
-    if (!AskYesNo(CloseQuestion())) {
-        args.cancel = true;
-        if (pauseFirst) cmdPause_Click();
-        return;
-    }
-    LeaveGameWindow(*this, kSettingsFile, SettingsSections());
+    ConfirmCloseGameWindow(*this, args, pauseFirst, [this] { cmdPause_Click(); }, kSettingsFile, SettingsSections());
 }
 
 // The cards keep their size: a resize only places the board around the
