@@ -404,6 +404,21 @@ void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face) 
         if (window.has(menu)) window.on(menu, Ev::Click, [w, form](EventArgs&) { ShowModalPaused(*w, form); });
 }
 
+void SetGameTimers(Form& window, int splashInterval, bool splashRunning, bool dialRunning) {
+    SetTimer(window, "Timer1", 1000, false);
+    SetTimer(window, "Timer2", 200, dialRunning);
+    SetTimer(window, "Timer3", 60000, true);
+    SetTimer(window, "Timer4", splashInterval, splashRunning);
+}
+
+void AskToClose(Form& window, EventArgs& args, const std::string& settingsFile, const SettingsLayout& settings) {
+    if (!AskYesNo(CloseQuestion())) {
+        args.cancel = true;
+        return;
+    }
+    LeaveGameWindow(window, settingsFile, settings);
+}
+
 bool ResizeToPlace(Form& window, int smallestWidth, int smallestHeight) {
     if (window.windowState() == 1) return false;
     if ((window.width() < smallestWidth || window.height() < smallestHeight) && window.windowState() == 0) {

@@ -39,6 +39,7 @@
 namespace ch {
 
 class Form;
+struct EventArgs;
 class RuntimeError;
 
 // Captions the game logic tests, exactly as they stand.
@@ -212,6 +213,14 @@ void CompleteFormLoad(Form& window, const std::string& tableName, const std::str
 // mnuExit close the window; mnuSounds and mnuMusic switch; mnuView (where the window has
 // it), mnuRules and mnuAbout open their windows around a pause.
 void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face);
+// The four timers of a game window: Timer1 the round clock (1000 ms, off),
+// Timer2 the dial's blink (200 ms, running when `dialRunning`), Timer3 the
+// time of day (60000 ms, on), Timer4 the splash ring.
+void SetGameTimers(Form& window, int splashInterval, bool splashRunning, bool dialRunning = false);
+// Form_QueryUnload of a window that lets its clock run while it asks: the
+// close question with Yes and No; No cancels the close, Yes leaves the window
+// as LeaveGameWindow does.
+void AskToClose(Form& window, EventArgs& args, const std::string& settingsFile, const SettingsLayout& settings);
 // Form_Resize's guard: false for a minimised window, and for one below its
 // smallest size, which is set back to it (a further resize follows); true
 // when the board is to be placed.
