@@ -453,6 +453,12 @@ SettingsSection DeckSection(Form& window, const char* const (&menus)[4]) {
             [] { return NumText(DeckDesign); }};
 }
 
+void AddClosingSections(SettingsLayout& layout, Form& window, int designWidth, int designHeight,
+                        const char* const (&menus)[4]) {
+    for (SettingsSection& section : WindowSizeSections(window, designWidth, designHeight)) layout.push_back(section);
+    layout.push_back(DeckSection(window, menus));
+}
+
 void ApplyWindowState(Form& window, const std::string& value) {
     if (value == "0" || value == "1" || value == "2") window.setWindowState(static_cast<int>(Val(value)));
 }

@@ -230,6 +230,10 @@ SettingsSection PlayMusicSection(Form& window);
 SettingsSection PlaySoundsSection(Form& window);
 SettingsSection TimeSection(Form& window, std::span<const TimeEntry> entries);
 SettingsSection DeckSection(Form& window, const char* const (&menus)[4]);
+// The sections most files close with: "[State]", "[Width]", "[Height]" and
+// "[Deck]", appended to `layout`.
+void AddClosingSections(SettingsLayout& layout, Form& window, int designWidth, int designHeight,
+                        const char* const (&menus)[4]);
 
 // ---- Window size in the settings file -------------------------------------
 // "[State]": 0 normal, 1 minimised, 2 maximised; other values change nothing.

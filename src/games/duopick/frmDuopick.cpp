@@ -179,8 +179,7 @@ SettingsLayout frmDuopick::SettingsSections() {
         number("[Bonus Score]", BonusScore),
         number("[Completion Bonus]", CompletionBonus),
     };
-    for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
-    layout.push_back(DeckSection(*this, kDeckMenus));
+    AddClosingSections(layout, *this, kDesignWidth, kDesignHeight, kDeckMenus);
     return layout;
 }
 
