@@ -36,6 +36,17 @@ std::string RulesText(int indent, const std::vector<std::string>& paragraphs) {
     return text;
 }
 
+std::string RequirementsParagraph() {
+    return "Requirements: To run " + AppTitle + " you need Windows 95 or above and a mouse.  Recommended: Soundcard.";
+}
+
+std::string ObjectParagraph(const std::string& rounds, const std::string& seconds, const std::string& bonusScore) {
+    return "As with most games, the object of " + AppTitle +
+           " is to attain the highest number of points possible. The game consists of " + rounds +
+           " rounds, each lasting " + seconds + " seconds. If you earn more than " + bonusScore +
+           " points in these rounds you are awarded an additional bonus round.";
+}
+
 frmRules::frmRules(Runtime& runtime) : Form(runtime, "frmRules") {
     setSize(8040, 6300);
     add(kLayout);

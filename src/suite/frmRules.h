@@ -26,6 +26,11 @@ void RegisterRules(const std::string& title, RulesComposer composer);
 // closed by two line breaks. Line breaks are CR LF. A paragraph may hold
 // lines of its own joined by single line breaks (Handgrid's hand table).
 std::string RulesText(int indent, const std::vector<std::string>& paragraphs);
+// The paragraphs most games open with: what the game needs, and its object:
+// `rounds` ("two") rounds of `seconds` each, and the bonus round above
+// `bonusScore`, both as the game writes its numbers.
+std::string RequirementsParagraph();
+std::string ObjectParagraph(const std::string& rounds, const std::string& seconds, const std::string& bonusScore);
 
 class frmRules : public Form {
 public:

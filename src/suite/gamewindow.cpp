@@ -446,6 +446,13 @@ void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face) 
         if (window.has(menu)) window.on(menu, Ev::Click, [w, form](EventArgs&) { ShowModalPaused(*w, form); });
 }
 
+void SetGameTimers(Form& window, int splashInterval, bool splashRunning, bool dialRunning) {
+    SetTimer(window, "Timer1", 1000, false);
+    SetTimer(window, "Timer2", 200, dialRunning);
+    SetTimer(window, "Timer3", 60000, true);
+    SetTimer(window, "Timer4", splashInterval, splashRunning);
+}
+
 bool ResizeToPlace(Form& window, int smallestWidth, int smallestHeight) {
     if (window.windowState() == 1) return false;
     if ((window.width() < smallestWidth || window.height() < smallestHeight) && window.windowState() == 0) {
@@ -467,6 +474,12 @@ SettingsSection PlaySoundsSection(Form& window) {
             [] { return std::string(BoolText(PlaySounds)); }};
 }
 
+
+void AddClosingSections(SettingsLayout& layout, Form& window, int designWidth, int designHeight,
+                        const char* const (&menus)[4]) {
+    for (SettingsSection& section : WindowSizeSections(window, designWidth, designHeight)) layout.push_back(section);
+    layout.push_back(DeckSection(window, menus));
+}
 
 void ApplyWindowState(Form& window, const std::string& value) {
     if (value == "0" || value == "1" || value == "2") window.setWindowState(static_cast<int>(Val(value)));

@@ -40,6 +40,7 @@
 namespace ch {
 
 class Form;
+struct EventArgs;
 class RuntimeError;
 struct EventArgs;
 
@@ -252,11 +253,19 @@ void CompleteFormLoad(Form& window, const std::string& tableName, const std::str
 // mnuExit close the window; mnuSounds and mnuMusic switch; mnuView (where the window has
 // it), mnuRules and mnuAbout open their windows around a pause.
 void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face);
+// The four timers of a game window: Timer1 the round clock (1000 ms, off),
+// Timer2 the dial's blink (200 ms, running when `dialRunning`), Timer3 the
+// time of day (60000 ms, on), Timer4 the splash ring.
+void SetGameTimers(Form& window, int splashInterval, bool splashRunning, bool dialRunning = false);
 // Form_Resize's guard: false for a minimised window, and for one below its
 // smallest size, which is set back to it (a further resize follows); true
 // when the board is to be placed.
 bool ResizeToPlace(Form& window, int smallestWidth, int smallestHeight);
 // The sections every settings file has, applied through the menu handlers.
+// The sections most files close with: "[State]", "[Width]", "[Height]" and
+// "[Deck]", appended to `layout`.
+void AddClosingSections(SettingsLayout& layout, Form& window, int designWidth, int designHeight,
+                        const char* const (&menus)[4]);
 
 // ---- Window size in the settings file -------------------------------------
 // "[State]": 0 normal, 1 minimised, 2 maximised; other values change nothing.

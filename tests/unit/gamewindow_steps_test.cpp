@@ -128,3 +128,20 @@ TEST_F(SharedSteps, AWindowBelowItsSmallestSizeIsSetBackToIt) {
     game.setSize(4000, 3000);
     EXPECT_TRUE(ResizeToPlace(game, 9570, 7200));
 }
+
+TEST_F(SharedSteps, TheFourTimersOfAGameWindow) {
+    Form window(runtime, "frmTimers");
+    for (const char* name : {"Timer1", "Timer2", "Timer3", "Timer4"}) window.add({ControlKind::Timer, name, -1, 0, 0, 0, 0});
+    SetGameTimers(window, 250, true);
+    EXPECT_EQ(window.c("Timer1").interval(), 1000);
+    EXPECT_FALSE(window.c("Timer1").enabled());
+    EXPECT_EQ(window.c("Timer2").interval(), 200);
+    EXPECT_FALSE(window.c("Timer2").enabled());
+    EXPECT_TRUE(window.c("Timer3").enabled());
+    EXPECT_EQ(window.c("Timer3").interval(), 60000);
+    EXPECT_EQ(window.c("Timer4").interval(), 250);
+    EXPECT_TRUE(window.c("Timer4").enabled());
+    SetGameTimers(window, 200, false, true);
+    EXPECT_TRUE(window.c("Timer2").enabled());
+    EXPECT_FALSE(window.c("Timer4").enabled());
+}

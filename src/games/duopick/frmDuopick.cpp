@@ -94,10 +94,7 @@ frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
     add(Layout());
     for (const ControlSpec& item : kMessages) c(item.name).move(item.left, item.top, item.width, item.height);
     PrepareStandingControls(*this);
-    SetTimer(*this, "Timer1", 1000, false);
-    SetTimer(*this, "Timer2", 200, false);
-    SetTimer(*this, "Timer3", 60000, true);
-    SetTimer(*this, "Timer4", 200, false);
+    SetGameTimers(*this, 200, false);
     for (int i = 0; i <= kUpCard; ++i) {
         c("PlayCard", i).setVisible(false);
         c("PlayCard", i).setBorderStyle(1);
@@ -182,8 +179,7 @@ SettingsLayout frmDuopick::SettingsSections() {
         number("[Bonus Score]", BonusScore),
         number("[Completion Bonus]", CompletionBonus),
     };
-    for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
-    layout.push_back(DeckSection(*this, kDeckMenus));
+    AddClosingSections(layout, *this, kDesignWidth, kDesignHeight, kDeckMenus);
     return layout;
 }
 
@@ -202,13 +198,7 @@ void frmDuopick::Form_Load() {
 }
 
 // The clock runs on while the question stands.
-void frmDuopick::Form_QueryUnload(EventArgs& args) {
-    if (!AskYesNo(CloseQuestion())) {
-        args.cancel = true;
-        return;
-    }
-    LeaveGameWindow(*this, kSettingsFile, SettingsSections());
-}
+void frmDuopick::Form_QueryUnload(EventArgs& args) { ConfirmCloseGameWindow(*this, args, kSettingsFile, SettingsSections()); }
 
 void frmDuopick::CheckForCustom() {
     CustomScoringInUse = IsCustom({PairsBonus, RunsBonus, TimeBonus, BonusScore, CompletionBonus});

@@ -16,12 +16,8 @@ std::string DuopickRulesText() {
     const int32_t runs = game ? game->RunsBonus : defaults.RunsBonus;
     const int32_t completion = game ? game->CompletionBonus : defaults.CompletionBonus;
     return RulesText(33, {
-        "Requirements: To run " + AppTitle + " you need Windows 95 or above " + "and a mouse. " +
-            " Recommended: Soundcard.",
-        "As with most games, the object of " + AppTitle + " is to attain the highest number of points " +
-            "possible. The game consists of two rounds, each lasting " + FormatScore(TimeLimit) +
-            " seconds. If you earn more than " + FormatScore(bonusScore) +
-            " points in these rounds you are awarded an additional bonus round.",
+        RequirementsParagraph(),
+        ObjectParagraph("two", FormatScore(TimeLimit), FormatScore(bonusScore)),
         "You earn points in a number ways:",
         std::string("1. Clicking on pairs of exposed cards to create pairs and runs. For example, 2-2, 5-6, and "
                     "10-9. A run may span from a King ") +
