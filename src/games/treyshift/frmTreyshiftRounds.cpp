@@ -16,11 +16,6 @@ namespace ch {
 
 using namespace treyshift;
 
-namespace {
-const char* const kTable = "TreyshiftHiScores";
-const char* const kRoundsDefault = "30000";
-}  // namespace
-
 // ---- Play, End Game, pause ----------------------------------------------------------
 
 void frmTreyshift::cmdPlay_Click(bool fromMenu) {

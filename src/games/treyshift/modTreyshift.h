@@ -39,6 +39,13 @@ struct ScoringValues {
 inline constexpr ScoringValues kDefaults{};
 constexpr int16_t kDefaultTimeLimit = 120;
 
+// The high score table. A missing table is made with the default score the
+// call passes: the table shown at load and by the clear command passes
+// 50000, the time limit entries and the end of a game pass 30000.
+inline constexpr const char* kTable = "TreyshiftHiScores";
+inline constexpr const char* kTableDefault = "50000";
+inline constexpr const char* kRoundsDefault = "30000";
+
 // True unless every value equals its default.
 bool IsCustomScoring(const ScoringValues& values);
 
