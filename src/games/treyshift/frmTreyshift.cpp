@@ -53,7 +53,8 @@ const ControlSpec kBoardLabels[] = {
     {K::Shape, "FieldRect", -1, 1800, 2040, 5895, 2415},
     {K::Label, "lblFieldCards", -1, 3847, 1770, 1800, 255, "   Playing Field   "},
     {K::Label, "lblTemp", -1, 1140, 840, 1620, 255, "Temporary Storage"},
-    {K::Image, "CardStackPicture", -1, 2160, 4680, kCardWidth, kCardHeight},
+    // The stack pictures are wider and taller than a card.
+    {K::Image, "CardStackPicture", -1, 2160, 4680, 1140, 1470},
     {K::Label, "lblCardCount", -1, 5640, 4800, 2400, 255, "Cards remaining: "},
     {K::Shape, "ScoringLabelOutline", -1, 2040, 2520, 5415, 1455},
     {K::Label, "lblFlush", -1, 0, 0, 1000, 255, "Flush!"},

@@ -84,7 +84,7 @@ void frmTreyshiftCustom::Form_Load() {
     PrepareUserOptionsDialog(*this);
     frmTreyshift& g = game();
     for (const ScoringFieldSpec& f : kScoringFields) c(f.textBox).setText(NumText(ValueOf(g, f.field)));
-    c("txtPenaltyValue").setText("-" + NumText(g.PenaltyValue));
+    c("txtPenaltyValue").setText(PenaltyText(g.PenaltyValue));
     c("chkCountDown").setValue(CountDownScore ? 1 : 0);
 }
 

@@ -80,11 +80,15 @@ void frmTreyshift::EndGame() {
     for (const char* name : {"TimerRectangle", "TimerBevelSide", "TimerBevelBottom"}) c(name).setVisible(false);
 }
 
-// A paused game shows no cards.
+// A paused game shows no cards; the message stands over the field.
 void frmTreyshift::cmdPause_Click() {
     if (TakingScore) return;
     if (c("cmdPause").caption() == kPauseCaption) {
         SetPausedControls(*this);
+        Control& message = c("lblMessage");
+        CentreAcross(message);
+        const Control& field = c("FieldRect");
+        message.setTop(field.top() + (field.height() - message.height()) / 2);
         ShowCards(false);
         if (PlayMusic) StopMusic();
     } else {
@@ -234,7 +238,7 @@ void frmTreyshift::RemoveLeftOverCards() {
     Control& scoring = c("lblScoring");
     Control& message = c("lblMessage");
     scoring.setCaption("Removing left over cards");
-    message.setCaption("-" + NumText(PenaltyValue));
+    message.setCaption(PenaltyText(PenaltyValue));
     CentreAcross(scoring);
     CentreAcross(message);
     scoring.setVisible(true);
@@ -243,7 +247,7 @@ void frmTreyshift::RemoveLeftOverCards() {
     Sleep(1000);
 
     Control& flush = c("lblFlush");
-    flush.setCaption("-" + NumText(PenaltyValue));
+    flush.setCaption(PenaltyText(PenaltyValue));
     flush.setBackStyle(0);
     flush.setFontSize(10);
     FitLabelToText(flush);

@@ -75,6 +75,10 @@ const char* StackKey(int deckPosition);
 // "Cards remaining: 52"; -1 once the empty card past the deck is taken.
 std::string CardsRemainingText(int deckPosition);
 
+// The penalty as the player sees it: a minus sign before the value held,
+// "-250"; "--20000" for the limit kept with its sign.
+std::string PenaltyText(int32_t penalty);
+
 // ---- Round ---------------------------------------------------------------------
 // A full storage and four full bottom slots: the only position taken as stuck.
 bool IsStuck(const std::array<std::string, kTempSlots>& temp, const std::array<std::string, kFieldSlots>& field);
