@@ -56,7 +56,8 @@ const ControlSpec kBoardLabels[] = {
     // The stack pictures are wider and taller than a card.
     {K::Image, "CardStackPicture", -1, 2160, 4680, 1140, 1470},
     {K::Label, "lblCardCount", -1, 5640, 4800, 2400, 255, "Cards remaining: "},
-    {K::Shape, "ScoringLabelOutline", -1, 2040, 2520, 5415, 1455},
+    // The outline of the round announcements spans the board: they are wide.
+    {K::Shape, "ScoringLabelOutline", -1, 960, 2400, 7080, 1695},
     {K::Label, "lblFlush", -1, 0, 0, 1000, 255, "Flush!"},
 };
 
