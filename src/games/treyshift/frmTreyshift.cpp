@@ -71,7 +71,10 @@ const char* const kRightColumn[] = {
 };
 const char* const kBoardArrays[] = {"PlayCard", "PlayCardSelection", "TempCard", "TempCardSelection", "UpCard"};
 const char* const kBoardSingles[] = {"FieldRect", "lblFieldCards", "lblTemp", "CardStackPicture", "UpCardSelection",
-                                     "lblCardCount", "ScoringLabelOutline", "lblHighScore"};
+                                     "lblCardCount", "ScoringLabelOutline"};
+// The high score stands under the card count, clear of the deck.
+constexpr int kHighScoreLeft = 5640;
+constexpr int kHighScoreTop = 5880;
 
 std::vector<ControlSpec> Layout() {
     std::vector<ControlSpec> specs;
@@ -106,7 +109,7 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
     setSize(kDesignWidth, kDesignHeight);
     add(Layout());
     PrepareStandingControls(*this);
-    c("lblHighScore").move(5640, 5880, 2400, 255);
+    c("lblHighScore").move(kHighScoreLeft, kHighScoreTop, 2400, 255);
     // The round stands as a caption of its own; the round box is not used.
     for (const char* name : {"RoundRectangle", "lblCurrentRound", "RoundBevelSide", "RoundBevelBottom"})
         c(name).setVisible(false);
@@ -291,7 +294,7 @@ void frmTreyshift::PlaceBoard() {
         if (inRight) control->setLeft(spec.left + right);
         if (onBoard) control->move(spec.left + dx, spec.top + dy, spec.width, spec.height);
     }
-    c("lblHighScore").move(5640 + dx, 5880 + dy, 2400, 255);
+    c("lblHighScore").move(kHighScoreLeft + dx, kHighScoreTop + dy, 2400, 255);
     Control& splash = c("frmSplash");
     splash.setLeft((clientWidth - splash.width()) / 2);
     splash.setTop(480 + dy);
