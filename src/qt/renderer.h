@@ -13,6 +13,7 @@
 #include <string>
 
 #include "qt/snapshot.h"
+#include "qt/views.h"
 #include "window/platform.h"
 
 class QWidget;
@@ -20,9 +21,6 @@ class QWidget;
 namespace ch {
 
 class FormWindow;
-
-// Twips to logical pixels at 15 to one; Qt's pixel ratio does the rest.
-inline int Px(int twips) { return static_cast<int>(twips >= 0 ? (twips + 7) / 15 : -((-twips + 7) / 15)); }
 
 // The frame around a form's client area, in pixels, as the form's outer size
 // counts it: borders, title bar and, where there is one, the menu bar.

@@ -147,7 +147,8 @@ void CountTimeBonus(Form& window, long long bonusPerSecond, const TimeBonusOptio
     SetForeColor(window, "lblCurrentScore", 0xFF0000);
 }
 
-void AwardBonus(Form& window, const std::string& title, long long count, long long value) {
+void AwardBonus(Form& window, const std::string& title, long long count, long long value,
+                const AwardOptions& options) {
     const long long total = count * value;
     ShowMessage(window, title + "!");
     SetForeColor(window, "lblCurrentScore", 0xFFFF00);
@@ -159,6 +160,8 @@ void AwardBonus(Form& window, const std::string& title, long long count, long lo
     Repaint();
     Sleep(1000);
 
+    if (CountDownScore && options.sixteenBitCount && (total > INT16_MAX || total < INT16_MIN))
+        throw RuntimeError(kErrOverflow, "Overflow");
     const long long step = CountDownScore ? CLng(static_cast<double>(total) / 20) : 0;
     if (step != 0) {
         // A counted loop from 1 to the total in steps of the step, as the

@@ -55,11 +55,19 @@ struct TimeBonusOptions {
 // seconds left it shows 0 and counts nothing.
 void CountTimeBonus(Form& window, long long bonusPerSecond, const TimeBonusOptions& options = {});
 
+// What varies between the games in a named bonus.
+struct AwardOptions {
+    // The count runs on 16-bit numbers (Spirehold's high run bonus): a total
+    // beyond 32767 overflows as the count starts, after it has been shown.
+    bool sixteenBitCount = false;
+};
+
 // A named bonus of count * value: lblMessage = title + "!", the total in
 // lblScoring for 1000 ms, then, with CountDownScore, counted in steps of
 // total / 20 (rounded) with "\Snap.wav" and 75 ms each; otherwise added at
 // once. A step of 0 (a total below 10) adds the total at once.
-void AwardBonus(Form& window, const std::string& title, long long count, long long value);
+void AwardBonus(Form& window, const std::string& title, long long count, long long value,
+                const AwardOptions& options = {});
 
 // CurrentScore += amount as a 32-bit score: "Overflow" (RuntimeError 6)
 // beyond its range.

@@ -1,5 +1,7 @@
 #include "suite/gamewindow.h"
 
+#include <algorithm>
+#include <limits>
 #include <stdexcept>
 
 #include "suite/cards.h"
@@ -131,8 +133,8 @@ void PrepareStandingControls(Form& window) {
     window.c("lblProductName").setFont("Arial", 24, true);
     window.c("lblCompanyProduct").setFont("Arial", 12, true);
     for (const char* centred : {"lblCompanyProduct", "lblProductName", "lblCurrentScore", "lblCurrentRound"})
-        window.c(centred).setAlignment(2);
-    window.c("lblCurrentScore").setForeColor(0xFF0000);
+        if (Control* label = window.find(centred)) label->setAlignment(2);
+    if (Control* score = window.find("lblCurrentScore")) score->setForeColor(0xFF0000);
     window.c("Surface").setBackColor(0);
     Control& pause = window.c("cmdPause");
     pause.setEnabled(false);
@@ -147,6 +149,33 @@ void SetTimer(Form& window, const std::string& name, int interval, bool enabled)
     Control& timer = window.c(name);
     timer.setInterval(interval);
     timer.setEnabled(enabled);
+}
+
+void BeginFormLoad(Form& window, int16_t timeLimit, int16_t deckDesign) {
+    window.setMousePointer(11);
+    window.c("Timer4").setEnabled(true);
+    window.c("Timer1").setEnabled(false);
+    TimeLimit = timeLimit;
+    PlaySounds = true;
+    PlayMusic = false;
+    DeckDesign = deckDesign;
+    CountDownScore = true;
+}
+
+void SetGameTimers(Form& window, const GameTimers& timers) {
+    SetTimer(window, "Timer1", 1000, false);
+    SetTimer(window, "Timer2", 200, timers.dialBlinkOn);
+    SetTimer(window, "Timer3", 60000, true);
+    SetTimer(window, "Timer4", timers.splashInterval, timers.splashOn);
+}
+
+void FinishLoading(Form& window, const std::string& tableName, const std::string& defaultScore) {
+    GameStartTime = WallClock();
+    ShowSplashCaptions(window);
+    CentreOnScreen(window);
+    InitTimeDial(window);
+    ShowHighScore(tableName, window, defaultScore);
+    window.setMousePointer(0);
 }
 
 void CentreOnScreen(Form& window) {
@@ -252,10 +281,10 @@ void SetPlayCaptions(Form& window, bool playing, const char* endCaption) {
     Caption(window, "mnuPlay", caption);
 }
 
-void SetPausedControls(Form& window) {
+void SetPausedControls(Form& window, const char* messageLabel) {
     Control& pause = window.c("cmdPause");
     pause.setToolTipText("Resumes the current game");
-    Control& message = window.c("lblMessage");
+    Control& message = window.c(messageLabel);
     message.setCaption(kGamePaused);
     if (GameInProgress) message.setVisible(true);
     window.c("Timer1").setEnabled(false);
@@ -264,10 +293,10 @@ void SetPausedControls(Form& window) {
     for (const char* name : kPlayControls) Enable(window, name, false);
 }
 
-void SetResumedControls(Form& window) {
+void SetResumedControls(Form& window, const char* messageLabel) {
     Control& pause = window.c("cmdPause");
     pause.setToolTipText("Pauses the current game");
-    Control& message = window.c("lblMessage");
+    Control& message = window.c(messageLabel);
     message.setVisible(false);
     message.setCaption("");
     window.c("Timer1").setEnabled(true);
@@ -295,15 +324,44 @@ void LeaveGameWindow(Form& window, const std::string& settingsFile, const Settin
     window.runtime().show("frmSelect");
 }
 
+void ConfirmCloseGameWindow(Form& window, EventArgs& args, bool pausedFirst, const std::function<void()>& pauseHandler,
+                            const std::string& settingsFile, const SettingsLayout& settings) {
+    if (!AskYesNo(CloseQuestion())) {
+        args.cancel = true;
+        if (pausedFirst && window.loaded()) pauseHandler();
+        return;
+    }
+    LeaveGameWindow(window, settingsFile, settings);
+}
+
+bool KeepDesignSize(Form& window, int designWidth, int designHeight) {
+    if (window.windowState() == 1) return false;
+    if ((window.width() < designWidth || window.height() < designHeight) && window.windowState() == 0) {
+        window.setSize(designWidth, designHeight);
+        return false;
+    }
+    return true;
+}
+
 void ShowModalPaused(Form& window, const std::string& formName, const char* messageLabel) {
+    RunPaused(window, [&window, &formName] { window.runtime().show(formName, true); }, messageLabel);
+}
+
+void RunPaused(Form& window, const std::function<void()>& step, const char* messageLabel) {
     Control& pause = window.c("cmdPause");
     Control* message = window.find(messageLabel);
     const auto reads = [message](const char* text) { return message && message->caption() == text; };
     const bool pausedBefore = reads(kGamePaused);
     if (pause.enabled() && !reads(kGamePaused) && !reads(kGameOver)) window.raise(&pause, Ev::Click);
-    window.runtime().show(formName, true);
+    step();
     if (!window.loaded()) return;
     if (pause.enabled() && !reads(kGameOver) && !pausedBefore) window.raise(&pause, Ev::Click);
+}
+
+std::vector<ControlSpec> TimeMenuEntries(std::span<const TimeEntry> entries) {
+    std::vector<ControlSpec> specs;
+    for (const TimeEntry& e : entries) specs.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTime"});
+    return specs;
 }
 
 void ClearTimeCheck(Form& window, std::span<const TimeEntry> entries) {
@@ -360,6 +418,67 @@ void SetPlayMusic(Form& window, bool on, bool gameRunning) {
         StopMusic();
 }
 
+void BeginFormLoad(Form& window, int timeLimit, const char* timeMenu) {
+    window.setMousePointer(11);
+    window.c("Timer4").setEnabled(true);
+    window.c("Timer1").setEnabled(false);
+    TimeLimit = static_cast<int16_t>(timeLimit);
+    PlaySounds = true;
+    PlayMusic = false;
+    DeckDesign = 1;
+    CountDownScore = true;
+    window.c(timeMenu).setChecked(true);
+    if (Control* sounds = window.find("mnuSounds")) sounds->setChecked(true);
+}
+
+void CompleteFormLoad(Form& window, const std::string& tableName, const std::string& defaultScore) {
+    GameStartTime = WallClock();
+    ShowSplashCaptions(window);
+    CentreOnScreen(window);
+    InitTimeDial(window);
+    ShowHighScore(tableName, window, defaultScore);
+    window.setMousePointer(0);
+}
+
+void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face) {
+    Form* w = &window;
+    window.on("Timer2", Ev::Timer, [w](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *w); });
+    window.on("Timer3", Ev::Timer, [w](EventArgs&) { ShowTimeOfDay(*w); });
+    window.on("Timer4", Ev::Timer, [w, &splash, face](EventArgs&) { splash.step(*w, face); });
+    for (const char* exit : {"cmdExit", "cmdQuit", "mnuExit"})
+        if (window.has(exit)) window.on(exit, Ev::Click, [w](EventArgs&) { w->runtime().unload(*w); });
+    window.on("mnuSounds", Ev::Click, [w](EventArgs&) { SetPlaySounds(*w, !PlaySounds); });
+    window.on("mnuMusic", Ev::Click, [w](EventArgs&) {
+        SetPlayMusic(*w, !PlayMusic, GameInProgress && w->c("cmdPause").caption() == kPauseCaption);
+    });
+    const std::pair<const char*, const char*> modal[] = {
+        {"mnuView", "frmHighScores"}, {"mnuRules", "frmRules"}, {"mnuAbout", "frmAbout"}};
+    for (const auto& [menu, form] : modal)
+        if (window.has(menu)) window.on(menu, Ev::Click, [w, form](EventArgs&) { ShowModalPaused(*w, form); });
+}
+
+bool ResizeToPlace(Form& window, int smallestWidth, int smallestHeight) {
+    if (window.windowState() == 1) return false;
+    if ((window.width() < smallestWidth || window.height() < smallestHeight) && window.windowState() == 0) {
+        window.setSize(smallestWidth, smallestHeight);
+        return false;
+    }
+    return true;
+}
+
+SettingsSection PlayMusicSection(Form& window) {
+    Form* w = &window;
+    return {"[Play Music]", [w](const std::string& v) { SetPlayMusic(*w, ParseBoolText(v), false); },
+            [] { return std::string(BoolText(PlayMusic)); }};
+}
+
+SettingsSection PlaySoundsSection(Form& window) {
+    Form* w = &window;
+    return {"[Play Sounds]", [w](const std::string& v) { SetPlaySounds(*w, ParseBoolText(v)); },
+            [] { return std::string(BoolText(PlaySounds)); }};
+}
+
+
 void ApplyWindowState(Form& window, const std::string& value) {
     if (value == "0" || value == "1" || value == "2") window.setWindowState(static_cast<int>(Val(value)));
 }
@@ -393,6 +512,47 @@ SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeigh
         {"[Height]", [w](const std::string& v) { ApplyWindowHeight(*w, v); },
          [w, designHeight] { return WindowHeightText(*w, designHeight); }},
     };
+}
+
+SettingsSection TimeSection(Form& window, std::span<const TimeEntry> entries, const char* name) {
+    Form* w = &window;
+    return {name, [w, entries](const std::string& v) { ApplyTimeSetting(*w, v, entries); },
+            [] { return NumText(TimeLimit); }};
+}
+
+SettingsSection DeckSection(Form& window, const char* const (&menus)[4]) {
+    Form* w = &window;
+    const char* const(*list)[4] = &menus;
+    return {"[Deck]", [w, list](const std::string& v) { ApplyDeckSetting(*w, v, *list); },
+            [] { return NumText(DeckDesign); }};
+}
+
+SettingsSection CountDownSection(const char* name) {
+    return {name, [](const std::string& v) { CountDownScore = ParseBoolText(v); },
+            [] { return std::string(BoolText(CountDownScore)); }};
+}
+
+namespace {
+template <typename T>
+SettingsSection NumberSectionOf(const char* name, T& setting) {
+    T* target = &setting;
+    return {name,
+            [target](const std::string& v) {
+                const double n = Val(v);
+                if (n >= static_cast<double>(std::numeric_limits<T>::min()) &&
+                    n <= static_cast<double>(std::numeric_limits<T>::max()))
+                    *target = static_cast<T>(CLng(n));
+            },
+            [target] { return NumText(*target); }};
+}
+}  // namespace
+
+SettingsSection NumberSection(const char* name, int16_t& setting) { return NumberSectionOf(name, setting); }
+SettingsSection NumberSection(const char* name, int32_t& setting) { return NumberSectionOf(name, setting); }
+
+void ShowRunTimeError(const RuntimeError& error) {
+    MsgBox("Run-time error '" + NumText(error.number()) + "':\r\n\r\n" + error.description(), MsgButtons::OK,
+           MsgIcon::Critical, AppTitle);
 }
 
 void FinishGame(Form& window, const std::string& tableName, const std::string& defaultScore,

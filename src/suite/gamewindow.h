@@ -31,13 +31,17 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <vector>
 
+#include "suite/labels.h"
 #include "suite/settings.h"
 #include "window/control.h"
 
 namespace ch {
 
 class Form;
+class RuntimeError;
+struct EventArgs;
 
 // Captions the game logic tests, exactly as they stand.
 inline constexpr const char* kPlayCaption = "&Play";
@@ -78,14 +82,34 @@ std::span<const ControlSpec> OptionsMenuHead();   // mnuOptions: mnuView, mnuCle
 std::span<const ControlSpec> OptionsMenuTail();   // mnuTime, mnuDeck with mnuPalm, mnuMagic, mnuNight, mnuHot
 std::span<const ControlSpec> HelpMenu();          // mnuHelp: mnuRules, mnuAbout
 
+// Where a game puts a control of the standing set when its board needs
+// another place for it.
+struct ControlPlace {
+    const char* name;
+    int left, top, width, height;
+};
+
 // The state of the standing controls at load: fonts of the big labels,
 // lblMessage and lblScoring hidden, cmdPause disabled, the play captions and
 // tool tips, the fixed captions of the boxes ("Time:", "Score:", "Round:").
 void PrepareStandingControls(Form& window);
 // A timer's interval and whether it runs.
 void SetTimer(Form& window, const std::string& name, int interval, bool enabled);
+// The four timers of a game window: Timer1 the round clock (1000 ms, off),
+// Timer2 the dial blink (200 ms), Timer3 the time of day (60000 ms, on),
+// Timer4 the splash animation.
+struct GameTimers {
+    bool dialBlinkOn = false;
+    int splashInterval = 200;
+    bool splashOn = false;
+};
+void SetGameTimers(Form& window, const GameTimers& timers = {});
 
 // ---- Form_Load ------------------------------------------------------------
+// The first steps of Form_Load: the hourglass, Timer4 on, Timer1 off, and the
+// shared defaults: TimeLimit, PlaySounds on, PlayMusic off, DeckDesign,
+// CountDownScore on. The game then sets its own scoring values.
+void BeginFormLoad(Form& window, int16_t timeLimit, int16_t deckDesign = 1);
 // left = (screen width - width) / 2, top likewise, integer division.
 void CentreOnScreen(Form& window);
 // Window caption = AppTitle; panel 1 "Welcome to " + AppTitle + two blanks;
@@ -94,6 +118,10 @@ void ShowWelcome(Form& window);
 // lblCompanyProduct "Quillmark Presents", lblVersion "Version 4.0",
 // lblProductName AppTitle, lblPlatform "Windows 95/98/NT"; frmSplash shown.
 void ShowSplashCaptions(Form& window);
+// The last steps of Form_Load, in their order: GameStartTime = now, the
+// splash captions, the window centred on the screen, the dial initialised,
+// the table's leader shown, the normal pointer.
+void FinishLoading(Form& window, const std::string& tableName, const std::string& defaultScore);
 // The wall clock as "h:mm AMPM" ("3:07 PM").
 std::string TimeOfDayText(int64_t wallClockMs);
 // Panel 3 of StatusBar1 = the time of day (Timer3, or Timer6 in Blackrush).
@@ -140,10 +168,11 @@ void SetPlayCaptions(Form& window, bool playing, const char* endCaption = kEndGa
 // (shown if GameInProgress), Timer1 off, "&Resume" on cmdPause and mnuPause,
 // cmdExit/cmdQuit, cmdTakeScore, cmdPlay, mnuExit, mnuPlay, mnuTakeScore
 // disabled. The game then hides its cards and stops the music.
-void SetPausedControls(Form& window);
+// A game whose messages stand in another label names it in `messageLabel`.
+void SetPausedControls(Form& window, const char* messageLabel = "lblMessage");
 // The reverse: lblMessage hidden and emptied, Timer1 on, "Pau&se", the
 // controls enabled. The game then shows its cards and restarts the music.
-void SetResumedControls(Form& window);
+void SetResumedControls(Form& window, const char* messageLabel = "lblMessage");
 // A Yes/No question with the question icon and the title AppTitle.
 bool AskYesNo(const std::string& question);
 // The question of closing the window: a game in progress, under five minutes
@@ -153,11 +182,26 @@ std::string CloseQuestion();
 // GameInProgress false, StopMusic if PlayMusic, the selector shown again.
 void LeaveGameWindow(Form& window, const std::string& settingsFile, const SettingsLayout& settings);
 
+// Form_QueryUnload of a game window: the close question (CloseQuestion); a
+// game the window paused before it (`pausedFirst`, by `pauseHandler`) goes
+// on after a No through the same handler, and the close is cancelled; a Yes
+// leaves the window (LeaveGameWindow).
+void ConfirmCloseGameWindow(Form& window, EventArgs& args, bool pausedFirst, const std::function<void()>& pauseHandler,
+                            const std::string& settingsFile, const SettingsLayout& settings);
+// The first step of Form_Resize: false when the window is minimised, or when
+// it was smaller than its design size and has been set back to it (a further
+// resize follows); true when the board is to be placed.
+bool KeepDesignSize(Form& window, int designWidth, int designHeight);
+
 // Around a modal window (rules, about, Hall of Fame): a running game that is
 // neither paused nor over (by `messageLabel`'s caption) is paused by a click
 // of cmdPause before and resumed by another after, unless it was paused
 // already or is over by then.
 void ShowModalPaused(Form& window, const std::string& formName, const char* messageLabel = "lblMessage");
+// The same pause and resume around any step that holds the window, such as
+// a question: a running game is paused by a click of cmdPause before `step`
+// and resumed by another after it, unless it was paused already or is over.
+void RunPaused(Form& window, const std::function<void()>& step, const char* messageLabel = "lblMessage");
 
 // ---- Menus --------------------------------------------------------------------
 struct TimeEntry {
@@ -165,6 +209,8 @@ struct TimeEntry {
     int seconds;          // 45
     const char* caption;  // "&45 seconds (default)"
 };
+// The menu entries of the time limits, under mnuTime.
+std::vector<ControlSpec> TimeMenuEntries(std::span<const TimeEntry> entries);
 // Unticks every entry.
 void ClearTimeCheck(Form& window, std::span<const TimeEntry> entries);
 // TimeLimit = the entry's seconds, ticks only it. The game then shows the
@@ -192,6 +238,25 @@ void SetPlaySounds(Form& window, bool on);
 // or stops at once.
 void SetPlayMusic(Form& window, bool on, bool gameRunning);
 
+// ---- Shared steps of a game window ------------------------------------------
+// Form_Load's opening: the hourglass, Timer4 on, Timer1 off, and the shared
+// defaults: `timeLimit` with its entry `timeMenu` ticked, sounds on (ticked),
+// music off, back design 1, count-down on.
+void BeginFormLoad(Form& window, int timeLimit, const char* timeMenu);
+// Form_Load's close: GameStartTime, the splash captions, the window centred,
+// the dial prepared, the table's top score shown, the normal pointer.
+void CompleteFormLoad(Form& window, const std::string& tableName, const std::string& defaultScore);
+// The handlers every game window binds alike: Timer2 the dial's blink,
+// Timer3 the time of day, Timer4 the splash ring; cmdExit (or cmdQuit) and
+// mnuExit close the window; mnuSounds and mnuMusic switch; mnuView (where the window has
+// it), mnuRules and mnuAbout open their windows around a pause.
+void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face);
+// Form_Resize's guard: false for a minimised window, and for one below its
+// smallest size, which is set back to it (a further resize follows); true
+// when the board is to be placed.
+bool ResizeToPlace(Form& window, int smallestWidth, int smallestHeight);
+// The sections every settings file has, applied through the menu handlers.
+
 // ---- Window size in the settings file -------------------------------------
 // "[State]": 0 normal, 1 minimised, 2 maximised; other values change nothing.
 void ApplyWindowState(Form& window, const std::string& value);
@@ -206,6 +271,30 @@ std::string WindowHeightText(const Form& window, int designHeight);
 // The three sections of the window's size in their order, "[State]" first so
 // that a maximised window ignores the size read after it.
 SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeight);
+
+// ---- Sections of a settings file that every game has ----------------------------
+// Each is read back through the handler its menu uses and written from the
+// shared variable.
+SettingsSection PlayMusicSection(Form& window);   // "[Play Music]", "True"/"False"
+SettingsSection PlaySoundsSection(Form& window);  // "[Play Sounds]"
+// "[Time]" (Blackrush names it "[Time Limit]"): a value that names an entry clicks it.
+SettingsSection TimeSection(Form& window, std::span<const TimeEntry> entries, const char* name = "[Time]");
+// "[Deck]": 1 to 4 clicks that design's entry.
+SettingsSection DeckSection(Form& window, const char* const (&menus)[4] = kDeckMenus);
+// CountDownScore under the game's name for it ("[Count Down Score]").
+SettingsSection CountDownSection(const char* name = "[Count Down Score]");
+// A scoring value: the number read, rounded half to even, when it lies in the
+// range of the setting's type; any other value changes nothing.
+SettingsSection NumberSection(const char* name, int16_t& setting);
+SettingsSection NumberSection(const char* name, int32_t& setting);
+
+// ---- Errors ----------------------------------------------------------------------
+// (Labels centred in their boxes: CentreLabelIn in labels.h.)
+// A run-time error no handler of the game takes ("Overflow" of a count-up
+// past its 16-bit range): the platform's message "Run-time error 'n':", two
+// line breaks and the description, with the critical icon and the title
+// AppTitle. The game then ends its game in order; the program goes on.
+void ShowRunTimeError(const RuntimeError& error);
 
 // ---- End of a game ------------------------------------------------------------
 struct FinishGameSteps {

@@ -82,6 +82,22 @@ TEST_F(DialWindow, AwardBonusCountsInTwentiethsAndKeepsTheOvershoot) {
     EXPECT_EQ(snaps(), 0);
 }
 
+TEST_F(DialWindow, ASixteenBitCountOverflowsPastItsRangeOnlyWhenCounting) {
+    AwardBonus(window, "Highest Run Bonus", 32, 1000, {.sixteenBitCount = true});
+    EXPECT_EQ(CurrentScore, 32000);
+    EXPECT_EQ(window.c("lblMessage").caption(), "Highest Run Bonus!");
+    CurrentScore = 0;
+    const int64_t start = platform.now();
+    EXPECT_THROW(AwardBonus(window, "Highest Run Bonus", 2, 20000, {.sixteenBitCount = true}), RuntimeError);
+    // The total was shown for its second before the count failed.
+    EXPECT_EQ(platform.now() - start, 1000);
+    EXPECT_EQ(window.c("lblScoring").caption(), "40,000");
+    EXPECT_EQ(CurrentScore, 0);
+    CountDownScore = false;
+    AwardBonus(window, "Highest Run Bonus", 2, 20000, {.sixteenBitCount = true});
+    EXPECT_EQ(CurrentScore, 40000);
+}
+
 TEST_F(DialWindow, AwardBonusWithoutCountingAddsAtOnceSilently) {
     CountDownScore = false;
     const int64_t start = platform.now();

@@ -1,7 +1,11 @@
 // The Sumfall window: a field of 22 cards in six tiers, an up card pile and a
 // play pile. The player clicks exposed cards that total the card goal; two
 // rounds and, on a high enough score, a bonus round. Each procedure here
-// follows the game's description step by step.
+// follows the game's description step by step. One class over three files:
+// frmSumfall.cpp the window (layout, menus, load, close, resize, settings),
+// frmSumfallBoard.cpp the board (deal, clicks, combinations, piles),
+// frmSumfallRounds.cpp the rounds (Play, pause, clock, take score, bonus
+// round, end of game, replay, saved games); rulestext.cpp its rules text.
 #pragma once
 
 #include <array>
@@ -19,6 +23,23 @@ namespace ch {
 class frmSumfall : public Form {
 public:
     explicit frmSumfall(Runtime& runtime);
+
+    // The window's fixed names, sizes and entries.
+    static constexpr const char* kTable = "HiScores";
+    static constexpr const char* kDefaultScore = "50000";
+    static constexpr const char* kSettingsFile = "\\Sumfall.Ini";
+    static constexpr int kDesignWidth = 9540;
+    static constexpr int kDesignHeight = 7200;
+    static constexpr int kCardWidth = 1065;
+    static constexpr int kCardHeight = 1455;
+    static constexpr const char* kTakeScoreCaption = "&Take Score";
+    static constexpr const char* kReplayCaption = "&Replay";
+    static constexpr const char* kReplayTip = "Replays the last game";
+    static constexpr TimeEntry kTimeEntries[] = {
+        {"mnu30", 30, "&30 seconds"},    {"mnu60", 60, "&60 seconds"},    {"mnu90", 90, "&90 seconds (default)"},
+        {"mnu120", 120, "1&20 seconds"}, {"mnu150", 150, "1&50 seconds"}, {"mnu180", 180, "1&80 seconds"},
+    };
+    static constexpr const char* kGoalMenus[6] = {"mnu10", "mnu11", "mnu12", "mnu13", "mnu14", "mnu15"};
 
     // Scoring values; the custom scoring dialog writes them (TimeBonus is shared).
     int32_t BonusRoundScore = sumfall::kDefaultBonusRoundScore;
@@ -84,10 +105,13 @@ private:
     void SelectionColor(int index);
     void ClearColorCheck();
     void ShowScore();
-    void CentreIn(const char* label, const char* rectangle);
     void PlaceBoard();
     void Wave(const char* name) const;
     SettingsLayout SettingsSections();
+
+    // The picture of a card code; a code with no picture (an empty slot of a
+    // damaged saved game) is an error, as the catalogue's lookup always was.
+    static int PictureOf(const std::string& code);
 
     // The board.
     std::array<std::string, sumfall::kFieldPlaces> FieldCards;
@@ -107,5 +131,7 @@ private:
 };
 
 void RegisterSumfall(Runtime& runtime);
+// The rules window's text, from the open window's live values.
+std::string SumfallRules();
 
 }  // namespace ch

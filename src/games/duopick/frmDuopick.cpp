@@ -1,0 +1,277 @@
+// The Duopick window itself: its layout and menus, the wiring of its events,
+// loading, closing and resizing, its settings file and its menu entries.
+#include "games/duopick/frmDuopick.h"
+
+#include <memory>
+
+#include "games/duopick/frmDuopickCustomScoring.h"
+#include "suite/cards.h"
+#include "suite/common.h"
+#include "suite/dial.h"
+#include "suite/frmRules.h"
+#include "suite/highscores.h"
+#include "suite/labels.h"
+#include "window/basic.h"
+#include "window/runtime.h"
+
+namespace ch {
+
+using namespace duopick;
+
+namespace {
+using K = ControlKind;
+
+const char* const kTable = "DuopickHighScores";
+// Clear High Scores writes and shows a table of its own name, which the game
+// never plays into: the played table survives the command.
+const char* const kClearedTable = "DuopickHiScores";
+const char* const kMenuScore = "30000";
+const char* const kSettingsFile = "\\Duopick.Ini";
+constexpr int kDesignWidth = 9570;
+constexpr int kDesignHeight = 7200;
+// Where the standing controls were laid out: the right column keeps its
+// distance from the window's right edge.
+constexpr int kStandingWidth = 9540;
+constexpr int kRightColumn = 8220;
+
+const TimeEntry kTimeEntries[] = {
+    {"mnu30", 30, "&30 seconds"},  {"mnu45", 45, "&45 seconds (default)"}, {"mnu60", 60, "&60 seconds"},
+    {"mnu75", 75, "&75 seconds"},  {"mnu90", 90, "&90 seconds"},           {"mnu105", 105, "&105 seconds"},
+    {"mnu120", 120, "1&20 seconds"},
+};
+
+// The board below the field: the stack, the count of its cards, and the
+// pairs and runs made with what each pays.
+const ControlSpec kBoard[] = {
+    {K::Image, "CardStackPicture", -1, 1950, 4245, kCardWidth, kCardHeight},
+    {K::Label, "lblCardCount", -1, 240, 4560, 1560, 255, "Cards remaining:"},
+    {K::Label, "lblCards", -1, 240, 4860, 1560, 330, "28"},
+    {K::Label, "lblPairs", -1, 4440, 4560, 1800, 255, "Pairs x "},
+    {K::Label, "lblScorePairs", -1, 6300, 4500, 900, 330, "0"},
+    {K::Label, "lblRuns", -1, 4440, 4980, 1800, 255, "Runs x "},
+    {K::Label, "lblScoreRuns", -1, 6300, 4920, 900, 330, "0"},
+};
+// The big labels stand over the middle of the field.
+const ControlSpec kMessages[] = {
+    {K::Label, "lblMessage", -1, 817, 2520, 7200, 615},
+    {K::Label, "lblScoring", -1, 817, 3240, 7200, 615},
+};
+
+std::vector<ControlSpec> Layout() {
+    std::vector<ControlSpec> specs;
+    auto add = [&specs](std::span<const ControlSpec> part) { specs.insert(specs.end(), part.begin(), part.end()); };
+    add(StandingControls());
+    add(TakeScoreButton());
+    add(ExitButton());
+    add(ScoringLabel());
+    // Row by row from the top: each lower row lies over the one above, and
+    // each selection rectangle over its card.
+    for (int i = 0; i <= kUpCard; ++i) {
+        const CardPlace& place = kPlaces[static_cast<size_t>(i)];
+        specs.push_back({K::Image, "PlayCard", i, place.left, place.top, kCardWidth, kCardHeight});
+        specs.push_back({K::Shape, "FieldSelectionRectangle", i, place.left, place.top, kCardWidth, kCardHeight});
+    }
+    add(kBoard);
+    add(FileMenu());
+    add(OptionsMenuHead());
+    specs.push_back({K::Menu, "mnuCustom", -1, 0, 0, 0, 0, "&User Options...", "mnuOptions"});
+    add(OptionsMenuTail());
+    for (const TimeEntry& e : kTimeEntries) specs.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTime"});
+    add(HelpMenu());
+    return specs;
+}
+}  // namespace
+
+void RegisterDuopick(Runtime& runtime) {
+    runtime.registerForm("frmDuopick", [](Runtime& rt) { return std::make_unique<frmDuopick>(rt); });
+    runtime.registerForm("frmDuopickCustomScoring",
+                         [](Runtime& rt) { return std::make_unique<frmDuopickCustomScoring>(rt); });
+    RegisterRules("Duopick!", DuopickRulesText);
+}
+
+frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
+    setSize(kDesignWidth, kDesignHeight);
+    add(Layout());
+    for (const ControlSpec& item : kMessages) c(item.name).move(item.left, item.top, item.width, item.height);
+    PrepareStandingControls(*this);
+    SetTimer(*this, "Timer1", 1000, false);
+    SetTimer(*this, "Timer2", 200, false);
+    SetTimer(*this, "Timer3", 60000, true);
+    SetTimer(*this, "Timer4", 200, false);
+    for (int i = 0; i <= kUpCard; ++i) {
+        c("PlayCard", i).setVisible(false);
+        c("PlayCard", i).setBorderStyle(1);
+        Control& selection = c("FieldSelectionRectangle", i);
+        selection.setVisible(false);
+        selection.setBorderColor(255);
+        selection.setBorderStyle(1);
+        selection.setBackStyle(0);
+    }
+    c("CardStackPicture").setVisible(false);
+    for (const char* count : {"lblCards", "lblScorePairs", "lblScoreRuns"}) {
+        c(count).setFont("Arial", 12, true);
+        c(count).setForeColor(0xFF0000);
+    }
+    c("lblCards").setAlignment(2);
+    for (const char* name : {"lblCardCount", "lblCards", "lblPairs", "lblScorePairs", "lblRuns", "lblScoreRuns"})
+        c(name).setVisible(false);
+    c("cmdExit").setToolTipText("Exits the game");
+    c("cmdTakeScore").setToolTipText("End current round and take score");
+    c("lblMessage").zOrderFront();
+    c("lblScoring").zOrderFront();
+    PlaceBoard();
+
+    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
+    on(Ev::Resize, [this](EventArgs&) { Form_Resize(); });
+    on(Ev::QueryUnload, [this](EventArgs& e) { Form_QueryUnload(e); });
+    on("cmdPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(); });
+    on("mnuPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(); });
+    on("cmdPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    on("cmdTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(); });
+    on("mnuTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(); });
+    on("PlayCard", Ev::Click, [this](EventArgs& e) { PlayCard_Click(e.index); });
+    on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
+    on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
+    BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
+    on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle"); });
+    on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
+    for (const TimeEntry& entry : kTimeEntries)
+        on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
+    for (int design = 1; design <= 4; ++design)
+        on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
+    on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmDuopickCustomScoring", true); });
+    on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
+
+    expose("PairsBonus", Expose(PairsBonus));
+    expose("RunsBonus", Expose(RunsBonus));
+    expose("BonusScore", Expose(BonusScore));
+    expose("CompletionBonus", Expose(CompletionBonus));
+    expose("DeckCards", Expose(DeckCards));
+    expose("UpCards", Expose(UpCards));
+    expose("WastePos", Expose(WastePos));
+    expose("StackIndex", Expose(StackIndex));
+    expose("CardsRemaining", Expose(CardsRemaining));
+    expose("CardsSelected", Expose(CardsSelected));
+    expose("FirstCardValue", Expose(FirstCardValue));
+    expose("FirstCardIndex", Expose(FirstCardIndex));
+    expose("PairsCount", Expose(PairsCount));
+    expose("RunsCount", Expose(RunsCount));
+    expose("RoundCompleted", Expose(RoundCompleted));
+    expose("CurrentRound", Expose(CurrentRound));
+}
+
+// ---- Loading and closing ----------------------------------------------------------
+
+SettingsLayout frmDuopick::SettingsSections() {
+    // A scoring value; a number out of its range changes nothing.
+    const auto number = [](const char* name, int32_t& setting) {
+        return SettingsSection{name, [&setting](const std::string& v) { setting = CLng(Val(v)); },
+                               [&setting] { return NumText(setting); }};
+    };
+    SettingsLayout layout = {
+        PlayMusicSection(*this),
+        TimeSection(*this, kTimeEntries),
+        PlaySoundsSection(*this),
+        PlayMusicSection(*this),
+        {"[Count Down Score]", [](const std::string& v) { CountDownScore = ParseBoolText(v); },
+         [] { return std::string(BoolText(CountDownScore)); }},
+        number("[Pairs Bonus]", PairsBonus),
+        number("[Runs Bonus]", RunsBonus),
+        number("[Time Bonus]", TimeBonus),
+        number("[Bonus Score]", BonusScore),
+        number("[Completion Bonus]", CompletionBonus),
+    };
+    for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
+    layout.push_back(DeckSection(*this, kDeckMenus));
+    return layout;
+}
+
+void frmDuopick::Form_Load() {
+    BeginFormLoad(*this, 45, "mnu45");
+    PairsBonus = kDefaultPairsBonus;
+    RunsBonus = kDefaultRunsBonus;
+    TimeBonus = kDefaultTimeBonus;
+    BonusScore = kDefaultBonusScore;
+    CompletionBonus = kDefaultCompletionBonus;
+    ShowWelcome(*this);
+    ReadSettingsINI(kSettingsFile, SettingsSections());
+    CheckForCustom();
+    ShowBonusLabels();
+    CompleteFormLoad(*this, kTable, kMenuScore);
+}
+
+// The clock runs on while the question stands.
+void frmDuopick::Form_QueryUnload(EventArgs& args) {
+    if (!AskYesNo(CloseQuestion())) {
+        args.cancel = true;
+        return;
+    }
+    LeaveGameWindow(*this, kSettingsFile, SettingsSections());
+}
+
+void frmDuopick::CheckForCustom() {
+    CustomScoringInUse = IsCustom({PairsBonus, RunsBonus, TimeBonus, BonusScore, CompletionBonus});
+}
+
+void frmDuopick::ShowBonusLabels() {
+    c("lblPairs").setCaption("Pairs x " + FormatScore(PairsBonus));
+    c("lblRuns").setCaption("Runs x " + FormatScore(RunsBonus));
+}
+
+// ---- Resizing -------------------------------------------------------------------------
+
+// The cards keep their size: a resize only places the board in the middle
+// of the window, the command column at its right edge and the status bar
+// at its bottom.
+void frmDuopick::Form_Resize() {
+    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+}
+
+void frmDuopick::PlaceBoard() {
+    const int clientWidth = width() - 120;
+    const int clientHeight = height() - 660;
+    const int dx = (width() - kDesignWidth) / 2;
+    const int dy = (height() - kDesignHeight) / 2;
+
+    Control& splash = c("frmSplash");
+    splash.setLeft((clientWidth - splash.width()) / 2);
+    splash.setTop(480 + dy);
+    for (auto part : {StandingControls(), TakeScoreButton(), ExitButton()})
+        for (const ControlSpec& item : part)
+            if (item.left >= kRightColumn && *item.container == '\0' && item.kind != K::Timer)
+                c(item.name).setLeft(item.left + width() - kStandingWidth);
+    c("StatusBar1").move(0, clientHeight - 330, clientWidth, 330);
+    c("lblHighScore").setTop(clientHeight - 330 - 255 - 50);
+
+    for (int i = 0; i <= kUpCard; ++i) {
+        const CardPlace& place = kPlaces[static_cast<size_t>(i)];
+        c("PlayCard", i).move(place.left + dx, place.top + dy, kCardWidth, kCardHeight);
+        c("FieldSelectionRectangle", i).move(place.left + dx, place.top + dy, kCardWidth, kCardHeight);
+    }
+    for (auto part : {std::span<const ControlSpec>(kBoard), std::span<const ControlSpec>(kMessages)})
+        for (const ControlSpec& item : part) c(item.name).move(item.left + dx, item.top + dy, item.width, item.height);
+}
+
+// ---- Menus ----------------------------------------------------------------------------
+
+void frmDuopick::mnuTime_Click(const char* menu) {
+    ChooseTimeLimit(*this, kTimeEntries, menu);
+    ShowHighScore(kTable, *this, kMenuScore);
+}
+
+void frmDuopick::mnuDeck_Click(int design) {
+    ChooseBackDesign(*this, kDeckMenus[design - 1]);
+    ShowStackStage();
+    DeckDesign = static_cast<int16_t>(design);
+}
+
+void frmDuopick::mnuClear_Click() {
+    RunPaused(*this, [this] {
+        if (!AskYesNo(kClearScoresQuestion)) return;
+        CreateHighScoreFile(kClearedTable, *this, kMenuScore);
+        ShowHighScore(kClearedTable, *this, kMenuScore);
+    });
+}
+
+}  // namespace ch

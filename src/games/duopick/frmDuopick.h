@@ -1,0 +1,101 @@
+// The Duopick window: 23 cards face up in five overlapping rows, an up card
+// on its waste pile and the stack beside it. The player takes exposed cards
+// away two at a time as pairs and runs; everything is paid at the end of the
+// round. Two rounds and, on a high enough score, a bonus round.
+//
+// The class spans three files: frmDuopick.cpp the window (layout, menus,
+// loading, closing, resizing, settings), frmDuopickBoard.cpp the board (the
+// deal, the clicks on cards and stack, what the board shows) and
+// frmDuopickRounds.cpp the rounds (Play, pause, the clock, the end of a round
+// and of the game).
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "games/duopick/modDuopick.h"
+#include "suite/gamewindow.h"
+#include "suite/settings.h"
+#include "window/form.h"
+
+namespace ch {
+
+class frmDuopick : public Form {
+public:
+    explicit frmDuopick(Runtime& runtime);
+
+    // Scoring values; the custom scoring dialog writes them (TimeBonus is shared).
+    int32_t PairsBonus = duopick::kDefaultPairsBonus;
+    int32_t RunsBonus = duopick::kDefaultRunsBonus;
+    int32_t BonusScore = duopick::kDefaultBonusScore;
+    int32_t CompletionBonus = duopick::kDefaultCompletionBonus;
+
+    // CustomScoringInUse unless every scoring value has its default.
+    void CheckForCustom();
+    // lblPairs "Pairs x " and lblRuns "Runs x " with their values.
+    void ShowBonusLabels();
+
+private:
+    // ---- The window (frmDuopick.cpp)
+    void Form_Load();
+    void Form_Resize();
+    void Form_QueryUnload(EventArgs& args);
+    void PlaceBoard();
+    SettingsLayout SettingsSections();
+    void mnuTime_Click(const char* menu);
+    void mnuDeck_Click(int design);
+    void mnuClear_Click();
+
+    // ---- The board (frmDuopickBoard.cpp)
+    void Deal();
+    bool CheckForLegalMove(int index) const;
+    void ClearSelectionRectangles();
+    void ShowCards(bool visible);
+    void ShowControls(bool visible, bool scoreVisible);
+    void ShowControls(bool visible) { ShowControls(visible, visible); }
+    void PlayCard_Click(int index);
+    void SecondCard(int index);
+    void CardStackPicture_Click();
+    void ShowStackStage();
+    void ShowCardImage(int index, const std::string& code);
+    void Wave(const char* name) const;
+
+    // ---- The rounds (frmDuopickRounds.cpp)
+    void cmdPlay_Click();
+    void Play();
+    void InitRound();
+    void cmdPause_Click();
+    void PauseGame();
+    void ResumeGame();
+    void cmdTakeScore_Click();
+    void TakeScore();
+    void GameOver();
+    void Timer1_Timer();
+    void ShowScore();
+
+    // The board. DeckCards(0..22) are the field, 23 the up card, 24..51 the
+    // stack; UpCards(1..WastePos) the waste pile, its top in PlayCard(23).
+    std::vector<std::string> DeckCards = std::vector<std::string>(duopick::kDeckCardsSize);
+    std::vector<std::string> UpCards = std::vector<std::string>(duopick::kUpCardsSize);
+    int16_t WastePos = 0;
+    int16_t StackIndex = duopick::kFirstStackCard;
+    int16_t CardsRemaining = 0;
+    int16_t CardsSelected = 0;
+    int16_t FirstCardValue = 0;
+    int16_t FirstCardIndex = 0;
+    int32_t PairsCount = 0;
+    int32_t RunsCount = 0;
+    bool RoundCompleted = false;
+    int16_t CurrentRound = 1;
+    // Which cards were on the table when the game was paused.
+    std::array<bool, duopick::kFieldCards + 1> ShownBeforePause{};
+    SplashAnimation Splash;
+};
+
+void RegisterDuopick(Runtime& runtime);
+// The rules window's text from the live settings (rulestext.cpp).
+std::string DuopickRulesText();
+
+}  // namespace ch

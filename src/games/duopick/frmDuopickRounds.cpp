@@ -1,0 +1,217 @@
+// The rounds of Duopick: Play and End Game, pause, the round clock, the end
+// of a round with its awards, the next round or bonus round, and the end of
+// the game.
+#include "games/duopick/frmDuopick.h"
+
+#include "suite/cards.h"
+#include "suite/common.h"
+#include "suite/dial.h"
+#include "suite/sound.h"
+#include "window/basic.h"
+#include "window/runtime.h"
+
+namespace ch {
+
+using namespace duopick;
+
+namespace {
+const char* const kTable = "DuopickHighScores";
+const char* const kGameOverScore = "50000";
+const char* const kRoundTip = "Ends the current game";
+}  // namespace
+
+// ---- Play and End Game ----------------------------------------------------------------
+
+// The button and the menu entry both come here; the caption of cmdPlay says
+// whether a game starts or the running one is to end.
+void frmDuopick::cmdPlay_Click() { Play(); }
+
+void frmDuopick::Play() {
+    if (c("cmdPlay").caption() == kPlayCaption) {
+        try {
+            CurrentRound = 1;
+            CurrentScore = 0;
+            ShowScore();
+            GameInProgress = true;
+            c("frmSplash").setVisible(false);
+            InitRound();
+        } catch (const std::exception& error) {
+            MsgBox(error.what(), MsgButtons::OK, MsgIcon::None, AppTitle);
+            runtime().end();
+        }
+        return;
+    }
+    bool quit = false;
+    RunPaused(*this, [&quit] { quit = AskYesNo(kQuitQuestion); });
+    if (!quit || !loaded()) return;
+    // An abandoned game enters no score in the table.
+    c("mnuTime").setEnabled(true);
+    c("mnuCustom").setEnabled(true);
+    SetPlayCaptions(*this, false);
+    GameInProgress = false;
+    ClearSelectionRectangles();
+    ShowCards(false);
+    ShowControls(false, true);
+    for (const char* name : {"mnuTakeScore", "mnuPause", "cmdTakeScore", "cmdPause"}) c(name).setEnabled(false);
+    c("CardStackPicture").setVisible(false);
+    c("Timer1").setEnabled(false);
+    ShowSplash(*this, true);
+    if (PlayMusic) StopMusic();
+}
+
+void frmDuopick::InitRound() {
+    DoEvents();
+    if (!loaded()) return;
+    if (!CreateStandardDeck() || !ShuffleDeck()) return;
+    Deal();
+    ElapsedSeconds = 0;
+    RoundCompleted = false;
+    c("lblMessage").setVisible(false);
+    TakingScore = false;
+    c("cmdPlay").setToolTipText(kRoundTip);
+    CardsSelected = 0;
+    FirstCardIndex = 0;
+    PairsCount = 0;
+    c("lblScorePairs").setCaption(NumText(PairsCount));
+    RunsCount = 0;
+    c("lblScoreRuns").setCaption(NumText(RunsCount));
+    c("lblTime").setCaption("Time: " + NumText(TimeLimit));
+    c("cmdPlay").setCaption(kEndGameCaption);
+    c("mnuPlay").setCaption(kEndGameCaption);
+    for (const char* name : {"cmdTakeScore", "mnuTakeScore", "cmdPause", "mnuPause"}) c(name).setEnabled(true);
+    c("lblCurrentRound").setCaption(NumText(CurrentRound));
+    c("mnuTime").setEnabled(false);
+    c("mnuCustom").setEnabled(false);
+    if (PlayMusic) StartMusic();
+}
+
+// ---- Pause ------------------------------------------------------------------------------
+
+void frmDuopick::cmdPause_Click() {
+    if (c("cmdPause").caption() == kPauseCaption)
+        PauseGame();
+    else
+        ResumeGame();
+}
+
+// A paused game can't be studied: the cards and the selection leave the
+// table and come back as they were.
+void frmDuopick::PauseGame() {
+    SetPausedControls(*this);
+    for (int i = 0; i <= kUpCard; ++i) {
+        ShownBeforePause[static_cast<size_t>(i)] = c("PlayCard", i).visible();
+        c("FieldSelectionRectangle", i).setVisible(false);
+    }
+    ShowCards(false);
+    if (PlayMusic) StopMusic();
+}
+
+void frmDuopick::ResumeGame() {
+    SetResumedControls(*this);
+    for (int i = 0; i <= kUpCard; ++i) c("PlayCard", i).setVisible(ShownBeforePause[static_cast<size_t>(i)]);
+    c("CardStackPicture").setVisible(true);
+    if (CardsSelected == 1) c("FieldSelectionRectangle", FirstCardIndex).setVisible(true);
+    if (PlayMusic && GameInProgress) StartMusic();
+}
+
+// ---- The clock --------------------------------------------------------------------------
+
+void frmDuopick::Timer1_Timer() {
+    AdvanceRoundClock(*this);
+    ShowTimeWarnings(*this);
+    if (ElapsedSeconds != TimeLimit) return;
+    setMousePointer(11);
+    c("Timer1").setEnabled(false);
+    ShowCards(false);
+    // A half-made pair counts for nothing.
+    ClearSelectionRectangles();
+    ShowTimesUp(*this);
+    BlinkLabel(c("lblMessage"), 10, 250);
+    raise(&c("cmdTakeScore"), Ev::Click);
+    if (!loaded()) return;
+    if (c("lblMessage").caption() != kGameOver) c("lblMessage").setVisible(false);
+    setMousePointer(0);
+}
+
+// ---- The end of a round ---------------------------------------------------------------
+
+void frmDuopick::cmdTakeScore_Click() {
+    if (!TakingScore) TakeScore();
+}
+
+// Nothing is paid during play: the round pays here, the completion bonus,
+// the time bonus, the runs and last the pairs.
+void frmDuopick::TakeScore() {
+    TakingScore = true;
+    // The clock stands while the round is paid.
+    c("Timer1").setEnabled(false);
+    ClearSelectionRectangles();
+    const char* const buttons[] = {"cmdTakeScore", "cmdPause", "cmdExit", "cmdPlay"};
+    for (const char* name : buttons) c(name).setEnabled(false);
+    setMousePointer(11);
+    ShowCards(false);
+    if (PlayMusic) StopMusic();
+
+    CurrentRound += 1;
+    Control& message = c("lblMessage");
+    message.setForeColor(255);
+    const Scoring scoring{PairsBonus, RunsBonus, TimeBonus, BonusScore, CompletionBonus};
+    for (const Award& award : RoundAwards(scoring, RoundCompleted, TimeLimit - ElapsedSeconds, RunsCount, PairsCount)) {
+        if (award.kind == Award::Kind::Time)
+            CountTimeBonus(*this, TimeBonus);
+        else
+            AwardBonus(*this, award.title, award.count, award.value);
+    }
+
+    switch (NextStep(CurrentRound, CurrentScore, BonusScore)) {
+        case AfterRound::RoundTwo:
+            for (const char* name : buttons) c(name).setEnabled(true);
+            message.setForeColor(255);
+            message.setVisible(true);
+            message.setCaption("Prepare for Round Two!");
+            BlinkLabel(message, 11, 250);
+            message.setVisible(false);
+            InitRound();
+            break;
+        case AfterRound::BonusRound:
+            for (const char* name : buttons) c(name).setEnabled(true);
+            message.setCaption("Prepare for Bonus Round!");
+            message.setVisible(true);
+            Wave("\\Applause.wav");
+            BlinkLabel(message, 11, 250);
+            message.setVisible(false);
+            InitRound();
+            break;
+        case AfterRound::GameOver:
+            GameOver();
+            break;
+    }
+    if (!loaded()) return;
+    c("lblScoring").setVisible(false);
+    setMousePointer(0);
+}
+
+void frmDuopick::GameOver() {
+    setMousePointer(11);
+    FinishGame(*this, kTable, kGameOverScore,
+               {[this](bool v) { ShowCards(v); }, [this](bool v, bool s) { ShowControls(v, s); }});
+    if (!loaded()) return;
+    Control& message = c("lblMessage");
+    message.setForeColor(255);
+    c("cmdPlay").setToolTipText(kStartsTip);
+    c("cmdTakeScore").setEnabled(false);
+    for (const char* name : {"cmdPlay", "cmdExit", "mnuTime", "mnuCustom"}) c(name).setEnabled(true);
+    message.setCaption(kGameOver);
+    message.setVisible(true);
+    runtime().refresh();
+    Sleep(2000);
+    // The splash panel takes the middle of the window again; the caption
+    // stays "Game Over".
+    message.setVisible(false);
+    ShowSplash(*this, true);
+    setMousePointer(0);
+}
+
+void frmDuopick::ShowScore() { c("lblCurrentScore").setCaption(FormatScore(CurrentScore)); }
+
+}  // namespace ch

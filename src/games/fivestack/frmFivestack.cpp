@@ -1,0 +1,414 @@
+// The Fivestack window: its layout, its menus, the constructor that binds the
+// events, Form_Load, closing, resizing, the settings file and the menu
+// handlers. The board and the rounds live in frmFivestackBoard.cpp and
+// frmFivestackRounds.cpp.
+#include "games/fivestack/frmFivestack.h"
+
+#include <memory>
+#include <vector>
+
+#include "games/fivestack/frmFivestackCustomScoring.h"
+#include "suite/cards.h"
+#include "suite/common.h"
+#include "suite/dial.h"
+#include "suite/highscores.h"
+#include "suite/sound.h"
+#include "window/basic.h"
+#include "window/runtime.h"
+
+namespace ch {
+
+using namespace fivestack;
+
+namespace {
+using K = ControlKind;
+
+
+const TimeEntry kTimeEntries[] = {
+    {"mnu15", 15, "&15 seconds"},
+    {"mnu30", 30, "&30 seconds"},
+    {"mnu45", 45, "&45 seconds"},
+    {"mnu60", 60, "&60 seconds (default)"},
+    {"mnu75", 75, "&75 seconds"},
+};
+
+// Fivestack's own places for the standing controls: the time, score and
+// round boxes stand in the top band beside the deck, the buttons at the
+// right edge above the Card Total.
+const ControlPlace kStandingPlaces[] = {
+    {"cmdPlay", 8220, 120, 1095, 375},
+    {"cmdPause", 8220, 555, 1095, 375},
+    {"lblTime", 4680, 60, 1095, 255},
+    {"TimerRectangle", 4680, 330, 1095, 1095},
+    {"Surface", 4725, 375, 1005, 1005},
+    {"TimerBevelSide", 5790, 345, 0, 1095},
+    {"TimerBevelBottom", 4695, 1440, 1095, 0},
+    {"lblScore", 6000, 60, 2055, 255},
+    {"ScoreRectangle", 6000, 330, 2055, 450},
+    {"ScoreBevelSide", 8070, 345, 0, 450},
+    {"ScoreBevelBottom", 6015, 795, 2055, 0},
+    {"lblRound", 6000, 900, 2055, 255},
+    {"lblHighScore", 6000, 1170, 2160, 255},
+    {"frmSplash", 1080, 1500, 5520, 4440},
+};
+// Standing controls this window does without: its messages stand in
+// ScoringLabel, its score in lblTotalScore, its round in lblRound alone.
+const char* const kUnused[] = {"lblMessage", "lblCurrentScore", "RoundRectangle", "lblCurrentRound",
+                               "RoundBevelSide", "RoundBevelBottom"};
+
+constexpr int kColumnLefts[kColumns] = {420, 1875, 3330, 4785, 6240};
+constexpr int kSlotTops[kSlots] = {2550, 2940, 3345, 3750, 4140};
+constexpr int kTotalLefts[kColumns] = {780, 2250, 3675, 5130, 6585};
+constexpr int kSoftLefts[kColumns] = {930, 2385, 3810, 5265, 6720};
+constexpr int kHitLefts[kColumns] = {405, 1860, 3315, 4770, 6225};
+
+const ControlSpec kBoard[] = {
+    {K::Image, "PlayCardPicture", -1, 420, 120, kCardWidth, kCardHeight},
+    {K::Image, "NextCardPicture", -1, 1875, 105, kCardWidth, kCardHeight},
+    {K::Button, "cmdPass", -1, 3330, 150, 1065, 510, "&Pass"},
+    {K::Label, "lblTimeBonus", -1, 4905, 735, 660, 300, ""},
+    {K::Label, "lblTotalScore", -1, 6045, 390, 1965, 330, "0"},
+    {K::Button, "cmdQuit", -1, 8220, 990, 1095, 375, "&Quit"},
+    {K::Label, "lblCurrentRoundScore", -1, 7590, 1470, 1710, 255, "Card Total"},
+    {K::Label, "lblCurrentTotal", -1, 8265, 1815, 750, 360, "0"},
+    {K::Frame, "frmScore", -1, 7590, 2280, 1710, 3240, "Card Total Value"},
+    {K::Button, "cmdGiveUp", -1, 7860, 5670, 1035, 555, "&Give Up"},
+    {K::Shape, "ScoringLabelOutline", -1, 480, 2760, 6600, 1500},
+    {K::Label, "ScoringLabelRoundTotal", -1, 1500, 3120, 2400, 435, ""},
+    {K::Label, "ScoringLabel", -1, 3900, 3120, 2400, 435, ""},
+    {K::Label, "ScoringLabelInfo", -1, 1500, 3600, 4500, 285, ""},
+};
+
+// The common menus; the File menu has no Take Score, which the Give Up
+// button stands for.
+std::vector<ControlSpec> Menus() {
+    std::vector<ControlSpec> m;
+    for (const ControlSpec& s : FileMenu())
+        if (std::string(s.name) != "mnuTakeScore") m.push_back(s);
+    for (const ControlSpec& s : OptionsMenuHead()) m.push_back(s);
+    m.push_back({K::Menu, "mnuCustom", -1, 0, 0, 0, 0, "&User Options...", "mnuOptions"});
+    for (const ControlSpec& s : OptionsMenuTail()) m.push_back(s);
+    for (const ControlSpec& s : TimeMenuEntries(kTimeEntries)) m.push_back(s);
+    for (const ControlSpec& s : HelpMenu()) m.push_back(s);
+    return m;
+}
+
+bool Unused(const char* name) {
+    for (const char* unused : kUnused)
+        if (std::string(name) == unused) return true;
+    return false;
+}
+
+// Every control with its place at the design size.
+const std::vector<ControlSpec>& Layout() {
+    static const std::vector<ControlSpec> specs = [] {
+        std::vector<ControlSpec> all;
+        for (ControlSpec s : StandingControls()) {
+            if (Unused(s.name)) continue;
+            for (const ControlPlace& p : kStandingPlaces)
+                if (std::string(s.name) == p.name) {
+                    s.left = p.left;
+                    s.top = p.top;
+                    s.width = p.width;
+                    s.height = p.height;
+                }
+            all.push_back(s);
+        }
+        for (int i = 0; i < kColumns; ++i) {
+            for (int slot = 0; slot < kSlots; ++slot)
+                all.push_back({K::Image, kColumnImages[i], slot, kColumnLefts[i], kSlotTops[slot], kCardWidth, kCardHeight});
+            all.push_back({K::Label, "ColumnTotal", i, kTotalLefts[i], 1815, 495, 360, "0"});
+            all.push_back({K::Label, "ColumnSoft", i, kSoftLefts[i], 2280, 495, 225, ""});
+            all.push_back({K::Line, kColumnLines[i], -1, kColumnLefts[i], 2520, kCardWidth, 0});
+            all.push_back({K::Button, "cmdHit", i, kHitLefts[i], 5670, kCardWidth, 570, "Hit"});
+        }
+        for (const ControlSpec& s : kBoard) all.push_back(s);
+        for (size_t row = 0; row < kCardTotalRows.size(); ++row) {
+            const CardTotalRow& r = kCardTotalRows[row];
+            const int top = 300 + static_cast<int>(row) * 285;
+            all.push_back({K::Label, r.rowLabel, -1, 240, top, 600, 255, r.caption, "frmScore"});
+            all.push_back({K::Label, r.valueLabel, -1, 900, top, 600, 255, "", "frmScore"});
+        }
+        for (const ControlSpec& s : Menus()) all.push_back(s);
+        return all;
+    }();
+    return specs;
+}
+
+// Controls that keep to the right edge or the bottom rather than to the board.
+bool KeepsItsOwnPlace(const ControlSpec& s) {
+    if (s.kind == K::Menu || s.kind == K::Timer || s.kind == K::StatusBar || *s.container) return true;
+    const std::string name = s.name;
+    return name == "cmdPlay" || name == "cmdPause" || name == "cmdQuit";
+}
+}  // namespace
+
+void RegisterFivestack(Runtime& runtime) {
+    runtime.registerForm("frmFivestack", [](Runtime& rt) { return std::make_unique<frmFivestack>(rt); });
+    runtime.registerForm("frmFivestackCustomScoring",
+                         [](Runtime& rt) { return std::make_unique<frmFivestackCustomScoring>(rt); });
+    RegisterFivestackRules();
+}
+
+frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
+    setSize(kDesignWidth, kDesignHeight);
+    add(Layout());
+    PrepareStandingControls(*this);
+    SetTimer(*this, "Timer1", 1000, false);
+    SetTimer(*this, "Timer2", 200, false);
+    SetTimer(*this, "Timer3", 60000, true);
+    SetTimer(*this, "Timer4", 200, false);
+
+    // The board stays hidden until the first Play.
+    for (int i = 0; i < kColumns; ++i) {
+        for (int slot = 0; slot < kSlots; ++slot) c(kColumnImages[i], slot).setVisible(false);
+        for (Control* control : {&c("ColumnTotal", i), &c("ColumnSoft", i), &c(kColumnLines[i]), &c("cmdHit", i)})
+            control->setVisible(false);
+        c("ColumnTotal", i).setAlignment(2);
+        c("ColumnTotal", i).setBackColor(0xFFFFFF);
+        c("ColumnTotal", i).setFont("Arial", 12, true);
+        c("ColumnSoft", i).setAlignment(2);
+        c("ColumnSoft", i).setForeColor(255);
+        c("ColumnSoft", i).setBackStyle(0);
+    }
+    for (const char* name : {"PlayCardPicture", "NextCardPicture", "cmdPass", "lblTimeBonus", "lblCurrentRoundScore",
+                             "lblCurrentTotal", "frmScore", "cmdGiveUp", "ScoringLabelOutline", "ScoringLabel",
+                             "ScoringLabelRoundTotal", "ScoringLabelInfo", "Surface", "lblTime", "TimerRectangle",
+                             "TimerBevelSide", "TimerBevelBottom", "lblScore", "ScoreRectangle", "ScoreBevelSide",
+                             "ScoreBevelBottom", "lblTotalScore", "lblRound"})
+        c(name).setVisible(false);
+    c("lblTime").setCaption("Time Bonus:");
+    c("lblRound").setCaption("Round: 1");
+    c("lblTimeBonus").setFont("Arial", 12, true);
+    c("lblTimeBonus").setBackStyle(0);
+    c("lblTotalScore").setFont("Arial", 12, true);
+    c("lblTotalScore").setAlignment(2);
+    c("lblTotalScore").setForeColor(0xFF0000);
+    c("lblCurrentRoundScore").setAlignment(2);
+    c("lblCurrentTotal").setFont("Arial", 12, true);
+    c("lblCurrentTotal").setAlignment(2);
+    c("lblCurrentTotal").setBackColor(0xFFFFFF);
+    c("lblCurrentTotal").setForeColor(255);
+    for (const char* big : {"ScoringLabel", "ScoringLabelRoundTotal"}) {
+        c(big).setFont("Arial", 18, true);
+        c(big).setBackStyle(0);
+    }
+    c("ScoringLabelInfo").setFont("Arial", 10, true);
+    c("ScoringLabelInfo").setBackStyle(0);
+    c("ScoringLabelOutline").setBorderStyle(1);
+    c("ScoringLabelOutline").setBorderColor(0xFF0000);
+    for (const CardTotalRow& row : kCardTotalRows) {
+        c(row.valueLabel).setCaption(NumText(row.value));
+        c(row.valueLabel).setAlignment(1);
+    }
+    c("PlayCardPicture").setBorderStyle(0);
+    for (const char* name : {"ScoringLabelOutline", "ScoringLabelRoundTotal", "ScoringLabel", "ScoringLabelInfo"})
+        c(name).zOrderFront();
+
+    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
+    on(Ev::Resize, [this](EventArgs&) { Form_Resize(); });
+    on(Ev::QueryUnload, [this](EventArgs& e) { Form_QueryUnload(e); });
+    on("cmdPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(false); });
+    on("mnuPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(true); });
+    on("cmdPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    on("cmdQuit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
+    on("mnuExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
+    on("cmdHit", Ev::Click, [this](EventArgs& e) { cmdHit_Click(e.index); });
+    on("cmdPass", Ev::Click, [this](EventArgs&) { cmdPass_Click(); });
+    on("cmdGiveUp", Ev::Click, [this](EventArgs&) { cmdGiveUp_Click(); });
+    on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
+    on("Timer2", Ev::Timer, [this](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *this); });
+    on("Timer3", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
+    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
+    on("lblCurrentTotal", Ev::Change, [this](EventArgs&) { lblCurrentTotal_Change(); });
+    on("lblTotalScore", Ev::Change, [this](EventArgs&) { lblTotalScore_Change(); });
+    on("lblHighScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblHighScore", "ScoreRectangle"); });
+    on("lblTimeBonus", Ev::Change, [this](EventArgs&) { CenterTimeBonus(); });
+    on("ColumnSoft", Ev::Change, [this](EventArgs& e) { ColumnSoft_Change(e.index); });
+    on("ScoringLabelInfo", Ev::Change, [this](EventArgs&) { CenterScoringInfo(); });
+    for (const TimeEntry& entry : kTimeEntries)
+        on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
+    for (int design = 1; design <= 4; ++design)
+        on(kReversedDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
+    on("mnuSounds", Ev::Click, [this](EventArgs&) { SetPlaySounds(*this, !PlaySounds); });
+    on("mnuMusic", Ev::Click, [this](EventArgs&) {
+        SetPlayMusic(*this, !PlayMusic, GameInProgress && c("cmdPause").caption() == kPauseCaption);
+    });
+    on("mnuCustom", Ev::Click, [this](EventArgs&) { mnuCustom_Click(); });
+    on("mnuView", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmHighScores", "ScoringLabel"); });
+    on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
+    on("mnuRules", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmRules", "ScoringLabel"); });
+    on("mnuAbout", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmAbout", "ScoringLabel"); });
+
+    expose("BonusScore", Expose(BonusScore));
+    expose("TimeBonusMax", Expose(TimeBonusMax));
+    expose("TimeBonusMin", Expose(TimeBonusMin));
+    expose("TimeBonusDecay", [this](int index, Value& out) {
+        if (index >= 0) return false;
+        out = static_cast<double>(TimeBonusDecay);
+        return true;
+    });
+    expose("WaitPeriod", Expose(WaitPeriod));
+    expose("CardsToPass", Expose(CardsToPass));
+    expose("PassesLeft", Expose(PassesLeft));
+    expose("DeckPosition", Expose(DeckPosition));
+    expose("CardTotal", Expose(CardTotal));
+    expose("CardTotalValue", Expose(CardTotalValue));
+    expose("CurrentRound", Expose(CurrentRound));
+    expose("QuitRequested", Expose(QuitRequested));
+    const auto column = [this](int16_t fivestack::Column::*field) {
+        return [this, field](int index, Value& out) {
+            if (index < 0 || index >= kColumns) return false;
+            out = static_cast<long long>(Columns[static_cast<size_t>(index)].*field);
+            return true;
+        };
+    };
+    expose("ColumnCards", column(&fivestack::Column::cards));
+    expose("SoftAces", column(&fivestack::Column::softAces));
+}
+
+// ---- Loading and closing ---------------------------------------------------------
+
+SettingsLayout frmFivestack::SettingsSections() {
+    SettingsLayout layout = {
+        {"[Time]", [this](const std::string& v) { ApplyTimeSetting(*this, v, kTimeEntries); },
+         [] { return NumText(TimeLimit); }},
+        {"[Play Sounds]", [this](const std::string& v) { SetPlaySounds(*this, ParseBoolText(v)); },
+         [] { return std::string(BoolText(PlaySounds)); }},
+        {"[Play Music]", [this](const std::string& v) { SetPlayMusic(*this, ParseBoolText(v), false); },
+         [] { return std::string(BoolText(PlayMusic)); }},
+        {"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kReversedDeckMenus); },
+         [] { return NumText(DeckDesign); }},
+        {"[TimeBonusMax]", [this](const std::string& v) { TimeBonusMax = CInt(Val(v)); },
+         [this] { return NumText(TimeBonusMax); }},
+        {"[TimeBonusMin]", [this](const std::string& v) { TimeBonusMin = CInt(Val(v)); },
+         [this] { return NumText(TimeBonusMin); }},
+        {"[BonusScore]", [this](const std::string& v) { BonusScore = CLng(Val(v)); },
+         [this] { return NumText(BonusScore); }},
+        {"[WaitPeriod]", [this](const std::string& v) { WaitPeriod = CInt(Val(v)); },
+         [this] { return NumText(WaitPeriod); }},
+        {"[CountDownScore]", [](const std::string& v) { CountDownScore = ParseBoolText(v); },
+         [] { return std::string(BoolText(CountDownScore)); }},
+        {"[Cards To Pass]",
+         [this](const std::string& v) {
+             CardsToPass = CInt(Val(v));
+             PassesLeft = CardsToPass;
+         },
+         [this] { return NumText(CardsToPass); }},
+    };
+    for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
+    return layout;
+}
+
+void frmFivestack::Form_Load() {
+    BeginFormLoad(*this, kDefaultTimeLimit);
+    GameInProgress = false;
+    BonusScore = kDefaultBonusScore;
+    TimeBonusMax = kDefaultTimeBonusMax;
+    TimeBonusMin = kDefaultTimeBonusMin;
+    WaitPeriod = kDefaultWaitPeriod;
+    CardsToPass = kDefaultCardsToPass;
+    PassesLeft = CardsToPass;
+    c("mnuSounds").setChecked(true);
+    ShowWelcome(*this);
+    c("StatusBar1").setPanel(1, "Welcome to " + AppTitle + "   ");
+    raise(&c("mnu60"), Ev::Click);
+    ReadSettingsINI(kSettingsFile, SettingsSections());
+    TimeBonusDecay = fivestack::TimeBonusDecay(TimeBonusMax, TimeBonusMin, TimeLimit);
+    GameStartTime = runtime().platform().wallClock();
+    ShowSplashCaptions(*this);
+    CentreOnScreen(*this);
+    InitTimeDial(*this);
+    ShowHighScore(kTable, *this, kDefaultTopScore);
+    CheckForCustom();
+    if (PassesLeft == 0) c("cmdPass").setEnabled(false);
+    setMousePointer(0);
+}
+
+// A game in progress is paused before the question and goes on after a No.
+// The test reads ScoringLabelInfo, which never holds "Game Paused": a game
+// already paused is resumed behind the question.
+void frmFivestack::Form_QueryUnload(EventArgs& args) {
+    const std::string& info = c("ScoringLabelInfo").caption();
+    const bool pauseFirst = GameInProgress && c("cmdPause").enabled() && info != kGamePaused && info != kGameOver;
+    if (pauseFirst) cmdPause_Click();
+    ConfirmCloseGameWindow(*this, args, pauseFirst, [this] { cmdPause_Click(); }, kSettingsFile, SettingsSections());
+}
+
+// The cards keep their size: a resize only moves the board to the middle of
+// the window, the command buttons to its right edge, the status bar to its
+// bottom. A minimised window stops the clock and the music of a running
+// round; restored, they go on unless the game is paused.
+void frmFivestack::Form_Resize() {
+    const bool running = GameInProgress && !TakingScore && c("cmdPause").caption() == kPauseCaption &&
+                         c("cmdPause").enabled();
+    if (windowState() == 1) {
+        if (running && !Minimised) {
+            Minimised = true;
+            c("Timer1").setEnabled(false);
+            if (PlayMusic) StopMusic();
+        }
+        return;
+    }
+    if (Minimised) {
+        Minimised = false;
+        if (running) {
+            c("Timer1").setEnabled(true);
+            if (PlayMusic) StartMusic();
+        }
+    }
+    if (KeepDesignSize(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+}
+
+void frmFivestack::PlaceBoard() {
+    const int dx = (width() - kDesignWidth) / 2;
+    const int dy = (height() - kDesignHeight) / 2;
+    for (const ControlSpec& s : Layout()) {
+        if (KeepsItsOwnPlace(s)) continue;
+        c(s.name, s.index).move(s.left + dx, s.top + dy, c(s.name, s.index).width(), c(s.name, s.index).height());
+    }
+    for (const char* button : {"cmdPlay", "cmdPause", "cmdQuit"}) c(button).setLeft(width() - 1320);
+    const int clientWidth = width() - 120;
+    const int clientHeight = height() - 660;
+    c("StatusBar1").move(0, clientHeight - 330, clientWidth, 330);
+    ResizeColumnHeaders();
+    CenterCardTotal();
+    lblTotalScore_Change();
+    CentreLabelIn(*this, "lblHighScore", "ScoreRectangle");
+    CenterTimeBonus();
+    CenterScoringLabel();
+    CenterScoringInfo();
+}
+
+// ---- Menus ----------------------------------------------------------------------------
+
+void frmFivestack::mnuTime_Click(const char* menu) {
+    ChooseTimeLimit(*this, kTimeEntries, menu);
+    TimeBonusDecay = fivestack::TimeBonusDecay(TimeBonusMax, TimeBonusMin, TimeLimit);
+    ShowHighScore(kTable, *this, kDefaultTopScore);
+}
+
+void frmFivestack::mnuDeck_Click(int design) {
+    ChooseBackDesign(*this, kReversedDeckMenus[design - 1]);
+    c("PlayCardPicture").setPicture(ImageList2().indexOf("BACK"));
+    DeckDesign = static_cast<int16_t>(design);
+}
+
+void frmFivestack::mnuClear_Click() {
+    if (!AskYesNo(kClearScoresQuestion)) return;
+    CreateHighScoreFile(kTable, *this, kDefaultTopScore);
+    ShowHighScore(kTable, *this, kDefaultTopScore);
+}
+
+void frmFivestack::mnuCustom_Click() { runtime().show("frmFivestackCustomScoring", true); }
+
+void frmFivestack::CheckForCustom() {
+    CustomScoringInUse = IsCustomScoring(TimeBonusMin, TimeBonusMax, BonusScore, PassesLeft);
+}
+
+void frmFivestack::ShowBonusGoal() {
+    c("StatusBar1").setPanel(1, "Make " + FormatScore(BonusScore) + " for bonus round.  ");
+}
+
+}  // namespace ch

@@ -1,0 +1,350 @@
+// The Spirehold window itself: its layout and menus, the constructor that
+// binds the events, loading, closing, resizing, the settings file and the
+// menu entries.
+#include "games/spirehold/frmSpirehold.h"
+
+#include <memory>
+#include <vector>
+
+#include "games/spirehold/frmSpireholdCustom.h"
+#include "suite/cards.h"
+#include "suite/common.h"
+#include "suite/dial.h"
+#include "suite/frmRules.h"
+#include "suite/highscores.h"
+#include "window/basic.h"
+#include "window/runtime.h"
+
+namespace ch {
+
+using namespace spirehold;
+
+std::string SpireholdRules();  // rulestext.cpp
+
+namespace {
+using K = ControlKind;
+
+const char* const kTable = "SpireholdHiScores";
+const char* const kDefaultScore = "30000";
+const char* const kSettingsFile = "\\Spirehold.Ini";
+
+const TimeEntry kTimeEntries[] = {
+    {"mnu30", 30, "&30 seconds"},
+    {"mnu45", 45, "&45 seconds (default)"},
+    {"mnu60", 60, "&60 seconds"},
+    {"mnu90", 90, "&90 seconds "},
+};
+
+// The towers fill the top of the window; below them, from left to right, the
+// score and round boxes, the stack and the up card, the run labels, the time
+// dial and the command buttons at the right edge.
+const ControlSpec kPlaces[] = {
+    {K::Label, "lblScore", -1, 60, 4215, 1800, 255},
+    {K::Shape, "ScoreRectangle", -1, 60, 4485, 1800, 375},
+    {K::Label, "lblCurrentScore", -1, 105, 4545, 1710, 255},
+    {K::Line, "ScoreBevelSide", -1, 1875, 4500, 0, 375},
+    {K::Line, "ScoreBevelBottom", -1, 75, 4875, 1800, 0},
+    {K::Label, "lblRound", -1, 60, 5010, 1800, 255},
+    {K::Shape, "RoundRectangle", -1, 60, 5280, 1800, 375},
+    {K::Label, "lblCurrentRound", -1, 105, 5340, 1710, 255},
+    {K::Line, "RoundBevelSide", -1, 1875, 5295, 0, 375},
+    {K::Line, "RoundBevelBottom", -1, 75, 5670, 1800, 0},
+    {K::Label, "lblHighScore", -1, 4440, 5160, 2580, 255},
+    {K::Label, "lblTime", -1, 7080, 4215, 1095, 255},
+    {K::Shape, "TimerRectangle", -1, 7080, 4485, 1095, 1095},
+    {K::PictureBox, "Surface", -1, 7125, 4530, 1005, 1005},
+    {K::Line, "TimerBevelSide", -1, 8190, 4500, 0, 1095},
+    {K::Line, "TimerBevelBottom", -1, 7095, 5595, 1095, 0},
+    {K::Label, "lblMessage", -1, 1425, 1800, 6600, 615},
+    {K::Label, "lblScoring", -1, 1425, 2520, 6600, 615},
+    {K::Frame, "frmSplash", -1, 1965, 120, 5520, 4020},
+};
+const ControlSpec kButtonPlaces[] = {
+    {K::Button, "cmdPlay", -1, 8250, 4215, 1095, 375},
+    {K::Button, "cmdTakeScore", -1, 8250, 4650, 1095, 375},
+    {K::Button, "cmdPause", -1, 8250, 5085, 1095, 375},
+    {K::Button, "cmdExit", -1, 8250, 5520, 1095, 375},
+};
+
+const ControlSpec kBoard[] = {
+    {K::Image, "CardStackPicture", -1, kStackLeft, kPilesTop, 1035, kCardHeight},
+    {K::Image, "UpCardPicture", -1, kUpCardLeft, kPilesTop, 1035, kCardHeight},
+    {K::Label, "lblCardCount", -1, 2100, 5760, 1500, 255, "Cards remaining:"},
+    {K::Label, "lblCards", -1, 3600, 5760, 735, 255},
+    {K::Label, "lblCurrentRun", -1, 4440, 4260, 2580, 255, "Current Run:"},
+    {K::Label, "lblHighRun", -1, 4440, 4560, 2580, 255, "Highest Run:"},
+    {K::Label, "lblNextCard", -1, 4440, 4860, 2580, 255, "Next card worth:"},
+    {K::Label, "lblTower1", -1, 865, 60, 1465, 255, "Tower 1 completed!"},
+    {K::Label, "lblTower2", -1, 4015, 60, 1465, 255, "Tower 2 completed!"},
+    {K::Label, "lblTower3", -1, 7150, 60, 1465, 255, "Tower 3 completed!"},
+};
+
+std::vector<ControlSpec> Menus() {
+    std::vector<ControlSpec> m = {
+        {K::Menu, "mnuGame", -1, 0, 0, 0, 0, "&Game"},
+        {K::Menu, "mnuPlay", -1, 0, 0, 0, 0, "&Play", "mnuGame"},
+        {K::Menu, "mnuTakeScore", -1, 0, 0, 0, 0, "&Take Score", "mnuGame"},
+        {K::Menu, "mnuPause", -1, 0, 0, 0, 0, "Pau&se", "mnuGame"},
+        {K::Menu, "mnuExit", -1, 0, 0, 0, 0, "E&xit", "mnuGame"},
+    };
+    for (const ControlSpec& spec : OptionsMenuHead()) m.push_back(spec);
+    m.push_back({K::Menu, "mnuCustom", -1, 0, 0, 0, 0, "&User Options...", "mnuOptions"});
+    m.push_back({K::Menu, "mnuClearHighRun", -1, 0, 0, 0, 0, "Clear &High Run", "mnuOptions"});
+    for (const ControlSpec& spec : OptionsMenuTail()) m.push_back(spec);
+    for (const TimeEntry& e : kTimeEntries) m.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTime"});
+    for (const ControlSpec& spec : HelpMenu()) m.push_back(spec);
+    return m;
+}
+
+std::vector<ControlSpec> Layout() {
+    std::vector<ControlSpec> specs;
+    auto add = [&specs](std::span<const ControlSpec> part) { specs.insert(specs.end(), part.begin(), part.end()); };
+    add(StandingControls());
+    add(TakeScoreButton());
+    add(ExitButton());
+    add(ScoringLabel());
+    for (int i = 0; i < kTowerCards; ++i) {
+        const TowerPlace& place = kTowerPlaces[static_cast<size_t>(i)];
+        specs.push_back({K::Image, "UpCardImage", i, place.left, place.top, kCardWidth, kCardHeight});
+    }
+    add(kBoard);
+    add(Menus());
+    return specs;
+}
+
+// Everything but the buttons, the status bar and the big labels moves with
+// the board.
+struct BoardPlace {
+    const char* name;
+    int index;
+    int left, top;
+};
+std::vector<BoardPlace> BoardPlaces() {
+    std::vector<BoardPlace> places;
+    for (int i = 0; i < kTowerCards; ++i) {
+        const TowerPlace& p = kTowerPlaces[static_cast<size_t>(i)];
+        places.push_back({"UpCardImage", i, p.left, p.top});
+    }
+    for (const ControlSpec& s : kBoard) places.push_back({s.name, -1, s.left, s.top});
+    for (const ControlSpec& s : kPlaces) {
+        const std::string name = s.name;
+        if (name != "lblMessage" && name != "lblScoring") places.push_back({s.name, -1, s.left, s.top});
+    }
+    return places;
+}
+
+// The client area's height at the window's design size.
+constexpr int kDesignClientHeight = kDesignHeight - 660;
+
+}  // namespace
+
+void RegisterSpirehold(Runtime& runtime) {
+    runtime.registerForm("frmSpirehold", [](Runtime& rt) { return std::make_unique<frmSpirehold>(rt); });
+    runtime.registerForm("frmSpireholdCustom", [](Runtime& rt) { return std::make_unique<frmSpireholdCustom>(rt); });
+    RegisterRules("Spirehold!", SpireholdRules);
+}
+
+frmSpirehold::frmSpirehold(Runtime& runtime) : Form(runtime, "frmSpirehold") {
+    setSize(kDesignWidth, kDesignHeight);
+    add(Layout());
+    for (const ControlSpec& p : kPlaces) c(p.name).move(p.left, p.top, p.width, p.height);
+    for (const ControlSpec& p : kButtonPlaces) c(p.name).move(p.left, p.top, p.width, p.height);
+    PrepareStandingControls(*this);
+    SetGameTimers(*this);
+    c("cmdExit").setToolTipText("Exits the game");
+    c("cmdTakeScore").setToolTipText("End current round and take score");
+    c("lblCards").setToolTipText("Displays your Current Score");
+    for (int i = 0; i < kTowerCards; ++i) {
+        Control& card = c("UpCardImage", i);
+        card.setVisible(false);
+        card.setBorderStyle(1);
+    }
+    for (const char* name : {"CardStackPicture", "UpCardPicture"}) c(name).setVisible(false);
+    HideTowerLabels();
+    // The messages stand over the towers.
+    c("lblMessage").zOrderFront();
+    c("lblScoring").zOrderFront();
+
+    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
+    on(Ev::Resize, [this](EventArgs&) { Form_Resize(); });
+    on(Ev::QueryUnload, [this](EventArgs& e) { Form_QueryUnload(e); });
+    on("cmdPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(false); });
+    on("mnuPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(true); });
+    on("cmdPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    on("cmdTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(); });
+    on("mnuTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(); });
+    on("cmdExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
+    on("mnuExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
+    on("UpCardImage", Ev::Click, [this](EventArgs& e) { UpCardImage_Click(e.index); });
+    on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
+    on("UpCardPicture", Ev::Click, [this](EventArgs&) { UpCardPicture_Click(); });
+    on("lblCurrentRun", Ev::Change, [this](EventArgs&) { lblCurrentRun_Change(); });
+    on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle"); });
+    on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
+    on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
+    on("Timer2", Ev::Timer, [this](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *this); });
+    on("Timer3", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
+    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
+    for (const TimeEntry& entry : kTimeEntries)
+        on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
+    for (int design = 1; design <= 4; ++design)
+        on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
+    on("mnuSounds", Ev::Click, [this](EventArgs&) { SetPlaySounds(*this, !PlaySounds); });
+    on("mnuMusic", Ev::Click, [this](EventArgs&) { SetPlayMusic(*this, !PlayMusic, GameRunning()); });
+    on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmSpireholdCustom", true); });
+    on("mnuClearHighRun", Ev::Click, [this](EventArgs&) { mnuClearHighRun_Click(); });
+    on("mnuView", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmHighScores"); });
+    on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
+    on("mnuRules", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmRules"); });
+    on("mnuAbout", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmAbout"); });
+
+    expose("CardValue", Expose(CardValue));
+    expose("BonusScore", Expose(BonusScore));
+    expose("HighRunBonus", Expose(HighRunBonus));
+    expose("TowerBonus", Expose(TowerBonus));
+    expose("StackIndex", Expose(StackIndex));
+    expose("UpCardCode", Expose(UpCardCode));
+    expose("UpCardValue", Expose(UpCardValue));
+    expose("CurrentRun", Expose(CurrentRun));
+    expose("HighestRun", Expose(HighestRun));
+    expose("RunValue", Expose(RunValue));
+    expose("CardsRemaining", Expose(CardsRemaining));
+    expose("TowersCompleted", Expose(TowersCompleted));
+    expose("NewHighRun", Expose(NewHighRun));
+    expose("CurrentRound", Expose(CurrentRound));
+    expose("DeckCards", Expose(DeckCards));
+}
+
+// ---- Loading and closing ---------------------------------------------------------
+
+SettingsLayout frmSpirehold::SettingsSections() {
+    SettingsLayout layout = {
+        PlayMusicSection(*this),
+        TimeSection(*this, kTimeEntries),
+        PlaySoundsSection(*this),
+        NumberSection("[Hi Run]", HighestRun),
+        NumberSection("[Card Bonus]", CardValue),
+        NumberSection("[Bonus Score]", BonusScore),
+        NumberSection("[Tower Bonus]", TowerBonus),
+        NumberSection("[High Run Bonus]", HighRunBonus),
+        CountDownSection(),
+        NumberSection("[Time Bonus]", TimeBonus),
+    };
+    for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
+    layout.push_back(DeckSection(*this));
+    return layout;
+}
+
+void frmSpirehold::Form_Load() {
+    setMousePointer(11);
+    c("Timer4").setEnabled(true);
+    c("Timer1").setEnabled(false);
+    TimeLimit = kDefaultTimeLimit;
+    PlaySounds = true;
+    PlayMusic = false;
+    DeckDesign = 1;
+    CountDownScore = true;
+    CardValue = kDefaultCardValue;
+    BonusScore = kDefaultBonusScore;
+    HighRunBonus = kDefaultHighRunBonus;
+    TowerBonus = kDefaultTowerBonus;
+    TimeBonus = kDefaultTimeBonus;
+    c("mnu45").setChecked(true);
+    c("mnuSounds").setChecked(true);
+    ShowWelcome(*this);
+    ReadSettingsINI(kSettingsFile, SettingsSections());
+    CheckForCustom();
+    FinishLoading(*this, kTable, kDefaultScore);
+}
+
+void frmSpirehold::Form_QueryUnload(EventArgs& args) {
+    if (!AskYesNo(CloseQuestion())) {
+        args.cancel = true;
+        return;
+    }
+    LeaveGameWindow(*this, kSettingsFile, SettingsSections());
+}
+
+void frmSpirehold::CheckForCustom() {
+    CustomScoringInUse = IsCustomScoring({CardValue, BonusScore, HighRunBonus, TowerBonus, TimeBonus});
+}
+
+// ---- Resize ------------------------------------------------------------------------
+
+// The cards keep their size: card 1 stays centred in the window and the rest
+// of the board keeps its shape around it; the buttons keep to the right edge
+// and the status bar to the bottom.
+void frmSpirehold::Form_Resize() {
+    if (windowState() == 1) return;
+    if ((width() < kDesignWidth || height() < kDesignHeight) && windowState() == 0) {
+        setSize(kDesignWidth, kDesignHeight);
+        return;
+    }
+    PlaceBoard();
+}
+
+void frmSpirehold::PlaceBoard() {
+    const int clientWidth = width() - 120;
+    const int clientHeight = height() - 660;
+    const int dx = (clientWidth - kCardWidth) / 2 - kTowerPlaces[1].left;
+    const int dy = (clientHeight - kDesignClientHeight) / 2;
+    for (const BoardPlace& p : BoardPlaces()) {
+        Control& control = c(p.name, p.index);
+        control.setLeft(p.left + dx);
+        control.setTop(p.top + dy);
+    }
+    for (const ControlSpec& b : kButtonPlaces) {
+        c(b.name).setLeft(width() - 1320);
+        c(b.name).setTop(b.top + dy);
+    }
+    c("StatusBar1").move(0, clientHeight - 330, clientWidth, 330);
+    // The count-ups centre lblScoring on the window's width; lblMessage
+    // stands centred above it.
+    for (const char* big : {"lblMessage", "lblScoring"}) {
+        Control& label = c(big);
+        label.setLeft((width() - label.width()) / 2);
+    }
+    c("lblMessage").setTop(1800 + dy);
+    c("lblScoring").setTop(2520 + dy);
+}
+
+// ---- Menus ----------------------------------------------------------------------------
+
+void frmSpirehold::mnuTime_Click(const char* menu) {
+    ChooseTimeLimit(*this, kTimeEntries, menu);
+    ShowHighScore(kTable, *this, kDefaultScore);
+}
+
+void frmSpirehold::mnuDeck_Click(int design) {
+    ChooseBackDesign(*this, kDeckMenus[design - 1]);
+    RefreshPlayCard();
+    RefreshFieldCards();
+    DeckDesign = static_cast<int16_t>(design);
+}
+
+void frmSpirehold::mnuClear_Click() {
+    if (!AskYesNo(kClearScoresQuestion)) return;
+    CreateHighScoreFile(kTable, *this, kDefaultScore);
+    ShowHighScore(kTable, *this, kDefaultScore);
+}
+
+// A running game is paused while the question stands and resumed after it.
+void frmSpirehold::mnuClearHighRun_Click() {
+    const bool pauseFirst = GameRunning();
+    if (pauseFirst) cmdPause_Click();
+    if (MsgBox("This will clear the current high run value. Are you sure?", MsgButtons::YesNo, MsgIcon::Question,
+               AppTitle) == MsgAnswer::Yes) {
+        HighestRun = 0;
+        c("lblHighRun").setCaption("Highest Run: " + NumText(HighestRun));
+    }
+    if (pauseFirst) cmdPause_Click();
+}
+
+// Running: cmdPause enabled and lblMessage neither "Game Paused" nor "Game Over".
+bool frmSpirehold::GameRunning() const {
+    const std::string& message = c("lblMessage").caption();
+    return c("cmdPause").enabled() && message != kGamePaused && message != kGameOver;
+}
+
+}  // namespace ch

@@ -1,0 +1,25 @@
+// Spirehold's custom scoring dialog: the five scoring values and the count
+// down switch. OK writes each value into the game window as it checks it,
+// also when a later one fails.
+#pragma once
+
+#include "window/form.h"
+
+namespace ch {
+
+class frmSpirehold;
+
+class frmSpireholdCustom : public Form {
+public:
+    explicit frmSpireholdCustom(Runtime& runtime);
+
+private:
+    frmSpirehold& game() const;
+    void Form_Load();
+    void cmdDefault_Click();
+    void cmdOK_Click();
+    // The setting behind field `index` of the dialog's table.
+    void SetValue(size_t index, int32_t value);
+};
+
+}  // namespace ch

@@ -1,0 +1,233 @@
+// Spirehold's rounds: Play and End Game, pause and resume, the round clock,
+// the end of a round with its awards in their order (time bonus, tower bonus,
+// high run bonus), the next round, the bonus round and the end of the game.
+#include "games/spirehold/frmSpirehold.h"
+#include "suite/cards.h"
+#include "suite/common.h"
+#include "suite/dial.h"
+#include "suite/sound.h"
+#include "window/basic.h"
+#include "window/runtime.h"
+
+namespace ch {
+
+using namespace spirehold;
+
+namespace {
+const char* const kTable = "SpireholdHiScores";
+const char* const kDefaultScore = "30000";
+const char* const kEndsCurrentTip = "Ends the current game";
+constexpr int kBlue = 0xFF0000;
+constexpr int kRed = 255;
+}  // namespace
+
+// ---- Play and End Game ------------------------------------------------------------
+
+void frmSpirehold::cmdPlay_Click(bool) {
+    try {
+        Play();
+    } catch (const RuntimeError& error) {
+        // A run-time error inside Play is told and ends the program.
+        MsgBox(error.description(), MsgButtons::OK, MsgIcon::None, AppTitle);
+        runtime().end();
+    }
+}
+
+void frmSpirehold::Play() {
+    if (c("cmdPlay").caption() == kPlayCaption) {
+        ShowSplash(*this, false);
+        GameInProgress = true;
+        CurrentRound = 1;
+        TowersCompleted = 0;
+        CurrentScore = 0;
+        ShowScore();
+        InitRound();
+        c("cmdPlay").setToolTipText(kEndsCurrentTip);
+        return;
+    }
+    if (!GameInProgress) return;
+    cmdPause_Click();
+    const bool yes = AskYesNo(kQuitQuestion);
+    cmdPause_Click();
+    if (yes) EndGame();
+}
+
+// A game given up counts as ended: its score is offered to the table.
+void frmSpirehold::EndGame() {
+    FinishGame(*this, kTable, kDefaultScore,
+               {[this](bool v) { ShowCards(v); }, [this](bool v, bool s) { ShowControls(v, s); }});
+    if (!loaded()) return;
+    ShowSplash(*this, true);
+    HideTowerLabels();
+    c("cmdPlay").setToolTipText(kStartsTip);
+    if (PlayMusic) StopMusic();
+}
+
+void frmSpirehold::InitRound() {
+    DoEvents();
+    if (!loaded()) return;
+    CreateStandardDeck();
+    ShuffleDeck();
+    Deal();
+    TakingScore = false;
+    ElapsedSeconds = 0;
+    CurrentRun = 0;
+    Control& message = c("lblMessage");
+    message.setCaption("");
+    message.setVisible(false);
+    c("lblCurrentRun").setCaption("Current Run: " + NumText(CurrentRun));
+    c("lblHighRun").setCaption("Highest Run: " + NumText(HighestRun));
+    c("lblTime").setCaption("Time: " + NumText(TimeLimit));
+    c("lblCurrentRound").setCaption(CurrentRound == 3 ? std::string("Bonus") : NumText(CurrentRound));
+    // The menu's Play entry keeps its caption in this window.
+    c("cmdPlay").setCaption(kEndGameCaption);
+    for (const char* name : {"mnuCustom", "mnuTime", "mnuClearHighRun"}) c(name).setEnabled(false);
+    for (const char* name : {"cmdPause", "cmdTakeScore", "cmdPlay", "cmdExit", "mnuPause", "mnuTakeScore"})
+        c(name).setEnabled(true);
+    ShowControls(true);
+    if (PlayMusic) StartMusic();
+}
+
+// ---- Pause ---------------------------------------------------------------------------
+
+// A paused game cannot be studied: the cards go; those still on the table
+// (they keep a picture) come back on resuming.
+void frmSpirehold::cmdPause_Click() {
+    if (c("cmdPause").caption() == kPauseCaption) {
+        SetPausedControls(*this);
+        ShowCards(false, false);
+        if (PlayMusic) StopMusic();
+        return;
+    }
+    SetResumedControls(*this);
+    for (int i = 0; i < kTowerCards; ++i) {
+        Control& card = c("UpCardImage", i);
+        card.setVisible(card.picture() != 0);
+    }
+    c("CardStackPicture").setVisible(true);
+    c("UpCardPicture").setVisible(true);
+    if (PlayMusic && GameInProgress) StartMusic();
+}
+
+// ---- The round clock -------------------------------------------------------------------
+
+void frmSpirehold::Timer1_Timer() {
+    AdvanceRoundClock(*this);
+    ShowTimeWarnings(*this);
+    if (ElapsedSeconds != TimeLimit) return;
+    setMousePointer(11);
+    c("Timer1").setEnabled(false);
+    ShowCards(false, false);
+    ShowTimesUp(*this);
+    BlinkLabel(c("lblMessage"), 10, 250);
+    cmdTakeScore_Click();
+    if (!loaded()) return;
+    if (c("lblMessage").caption() != kGameOver) c("lblMessage").setVisible(false);
+    setMousePointer(0);
+}
+
+// ---- The end of a round ------------------------------------------------------------------
+
+void frmSpirehold::cmdTakeScore_Click() {
+    if (TakingScore) return;
+    try {
+        TakeScore();
+    } catch (const RuntimeError& error) {
+        EndOnError(error);
+    }
+}
+
+// A run-time error in play or in the end of a round (a count-up past its
+// range) is told, and the game ends there with the score made so far.
+void frmSpirehold::EndOnError(const RuntimeError& error) {
+    ShowRunTimeError(error);
+    if (!loaded()) return;
+    c("lblScoring").setVisible(false);
+    c("lblCurrentScore").setForeColor(kBlue);
+    c("lblMessage").setVisible(true);
+    GameOver();
+}
+
+void frmSpirehold::TakeScore() {
+    TakingScore = true;
+    for (const char* name : {"cmdTakeScore", "cmdPlay", "cmdPause", "cmdExit"}) c(name).setEnabled(false);
+    setMousePointer(11);
+    ShowCards(false, false);
+    if (PlayMusic) StopMusic();
+    CurrentRound += 1;
+    Control& message = c("lblMessage");
+    message.setForeColor(kRed);
+    message.setVisible(true);
+
+    if (TimeLimit - ElapsedSeconds > 0) {
+        if (TowersCompleted != 0) {
+            CountTimeBonus(*this, TimeBonus);
+        } else {
+            message.setCaption("Sorry, you must complete at least\r\none tower to receive the time bonus!");
+            Wave("\\Slide.wav");
+            runtime().refresh();
+            Sleep(3000);
+        }
+    }
+    TowerScore();
+    HighRunScore();
+
+    if (CurrentRound == 2) {
+        message.setForeColor(kRed);
+        message.setVisible(true);
+        message.setCaption("Prepare for Round Two!");
+        BlinkLabel(message, 11, 250);
+        message.setVisible(false);
+        InitRound();
+    } else if (CurrentRound == 3 && CurrentScore >= BonusScore) {
+        message.setCaption("Prepare for Bonus Round!");
+        Wave("\\Applause.wav");
+        BlinkLabel(message, 11, 250);
+        message.setVisible(false);
+        InitRound();
+    } else {
+        GameOver();
+    }
+    if (!loaded()) return;
+    c("lblScoring").setVisible(false);
+    setMousePointer(0);
+}
+
+void frmSpirehold::GameOver() {
+    setMousePointer(11);
+    FinishGame(*this, kTable, kDefaultScore,
+               {[this](bool v) { ShowCards(v); }, [this](bool v, bool s) { ShowControls(v, s); }});
+    if (!loaded()) return;
+    HideTowerLabels();
+    Control& message = c("lblMessage");
+    message.setForeColor(kRed);
+    c("cmdPlay").setToolTipText(kStartsTip);
+    message.setCaption(kGameOver);
+    runtime().refresh();
+    Sleep(2000);
+    ShowSplash(*this, true);
+    setMousePointer(0);
+    c("cmdPlay").setEnabled(true);
+    c("cmdExit").setEnabled(true);
+}
+
+void frmSpirehold::TowerScore() {
+    if (TowersCompleted > 0) {
+        AwardBonus(*this, "Tower Bonus!", TowersCompleted, TowerBonus);
+        TowersCompleted = 0;
+    }
+    c("lblScoring").setVisible(false);
+}
+
+// Paid only for a record set in the round just ended; its count runs on
+// 16-bit numbers.
+void frmSpirehold::HighRunScore() {
+    if (!NewHighRun) {
+        c("lblScoring").setVisible(false);
+        return;
+    }
+    NewHighRun = false;
+    AwardBonus(*this, "Highest Run Bonus", HighestRun, HighRunBonus, {.sixteenBitCount = true});
+}
+
+}  // namespace ch

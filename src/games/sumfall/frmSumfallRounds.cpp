@@ -1,0 +1,415 @@
+// The Sumfall rounds: Play and End Game, pause and resume, the round clock
+// and its time-up, Take Score with its completion, combination and speed
+// bonuses, the second round, the bonus round, the end of the game, Replay
+// and the opening of a saved game.
+#include "games/sumfall/frmSumfall.h"
+#include "suite/cards.h"
+#include "suite/common.h"
+#include "suite/dial.h"
+#include "suite/files.h"
+#include "suite/highscores.h"
+#include "suite/sound.h"
+#include "window/basic.h"
+#include "window/runtime.h"
+
+namespace ch {
+
+using namespace sumfall;
+
+// ---- Play, pause, end --------------------------------------------------------------
+
+void frmSumfall::cmdPlay_Click(bool fromMenu) {
+    if (c(fromMenu ? "mnuPlay" : "cmdPlay").caption() == kPlayCaption) {
+        SetPlayCaptions(*this, true);
+        if (fromMenu) {
+            c("frmSplash").setVisible(false);
+        } else {
+            ShowSplash(*this, false);
+            c("mnuSave").setEnabled(false);
+        }
+        Play();
+        if (!fromMenu && PlayMusic && loaded()) StartMusic();
+        return;
+    }
+    if (fromMenu && !GameInProgress) {
+        Control& message = c("lblMessage");
+        message.setCaption("Select your options and play again!");
+        message.setVisible(true);
+        runtime().refresh();
+        Sleep(2000);
+        return;
+    }
+    c("cmdPlay").setToolTipText(kStartsTip);
+    if (!GameInProgress) return;
+    cmdPause_Click();
+    const bool yes = AskYesNo(fromMenu ? kRestartQuestion : kQuitNowQuestion);
+    cmdPause_Click();
+    if (!yes) return;
+    SetPlayCaptions(*this, false);
+    EndGame();
+}
+
+void frmSumfall::Play() {
+    setMousePointer(11);
+    bool ok = true;
+    if (ReplayPending) {
+        for (size_t i = 1; i < Deck.size() && i < Round1Deck.size(); ++i) Deck[i] = Round1Deck[i];
+    } else {
+        ok = CreateSumfallDeck() && ShuffleDeck();
+        if (ok) {
+            for (auto* round : {&Round1Deck, &Round2Deck, &Round3Deck}) round->assign(Deck.size(), std::string());
+        }
+    }
+    ok = ok && Deal(true);
+    if (ok) {
+        GameInProgress = true;
+        TakingScore = false;
+        c("lblHighScore").setVisible(true);
+        for (const char* name : {"cmdTakeScore", "mnuTakeScore"}) {
+            c(name).setEnabled(true);
+            c(name).setCaption(kTakeScoreCaption);
+        }
+        c("cmdTakeScore").setToolTipText("Ends current round and awards time bonus");
+        c("cmdPause").setEnabled(true);
+        for (const char* name : {"mnuPause", "mnuViewHiScore", "mnuDeck"}) c(name).setEnabled(true);
+        for (const char* name : {"mnuOpen", "mnuTime", "mnuGoal", "mnuScoring"}) c(name).setEnabled(false);
+    } else {
+        MsgBox("Unknown Error! Unable to play " + AppTitle, MsgButtons::OKCancel, MsgIcon::Critical, AppTitle);
+        runtime().unload(*this);
+        if (!loaded()) return;
+    }
+    setMousePointer(0);
+}
+
+void frmSumfall::cmdPause_Click() {
+    if (c("cmdPause").caption() == kPauseCaption)
+        PauseGame();
+    else
+        ResumeGame();
+}
+
+// A paused game cannot be studied: the selection goes and the cards are
+// turned down.
+void frmSumfall::PauseGame() {
+    SetPausedControls(*this);
+    SelRectangle(false);
+    CurrentTotal = 0;
+    c("lblCurrentTotal").setCaption(NumText(CurrentTotal));
+    RefreshFieldCards();
+    if (UpCardIndex > 0) {
+        c("UpCardPicture").setPicture(ImageList2().indexOf("BACK"));
+        c("UpCardPicture").setBorderStyle(0);
+    }
+    if (PlayMusic) StopMusic();
+}
+
+void frmSumfall::ResumeGame() {
+    SetResumedControls(*this);
+    ShowFieldFaces();
+    if (PlayMusic && GameInProgress) StartMusic();
+}
+
+void frmSumfall::cmdTakeScore_Click(bool fromMenu) {
+    if (c("cmdTakeScore").caption() == kReplayCaption) {
+        ReplayPending = true;
+        cmdPlay_Click(false);
+        return;
+    }
+    if (TakingScore) return;
+    TakeScore();
+    if (!fromMenu && loaded() && PlayMusic && GameInProgress) StartMusic();
+}
+
+void frmSumfall::Timer1_Timer() {
+    AdvanceRoundClock(*this);
+    ShowTimeWarnings(*this);
+    if (ElapsedSeconds != TimeLimit) return;
+    c("Timer1").setEnabled(false);
+    DisableCommandButtons(true);
+    ShowTimesUp(*this);
+    BlinkLabel(c("lblMessage"), 10, 250);
+    cmdTakeScore_Click(false);
+    if (loaded() && c("lblMessage").caption() != kGameOver) c("lblMessage").setVisible(false);
+}
+
+// The end of a round: completion, combinations and speed bonus in this order,
+// then the next round, the bonus round or the end of the game.
+void frmSumfall::TakeScore() {
+    Control& message = c("lblMessage");
+    Control& score = c("lblCurrentScore");
+    TakingScore = true;
+    c("Timer1").setEnabled(false);
+    setMousePointer(11);
+    if (PlayMusic) StopMusic();
+
+    DisableCommandButtons(true);
+    SelRectangle(false);
+    const bool completed = CheckForCompletion();
+    FieldCardDisplay(false);
+    CardTotalVisible(false);
+    ShowLowerCards(false);
+
+    if (completed) {
+        Wave("\\Wingame.wav");
+        message.setCaption("Completion Bonus! " + NumText(CompletionBonus));
+        message.setVisible(true);
+        runtime().refresh();
+        score.setForeColor(0xFFFF00);
+        Sleep(1000);
+        if (CountDownScore) {
+            const int32_t step = CompletionBonus / 10;
+            for (int i = 0; i < 10; ++i) {
+                message.setForeColor(message.foreColor() == 255 ? 0 : 255);
+                AddToScore(step);
+                ShowScore();
+                runtime().refresh();
+                Wave("\\Snap.wav");
+                Sleep(75);
+            }
+        } else {
+            AddToScore(CompletionBonus);
+            ShowScore();
+            runtime().refresh();
+            Sleep(1000);
+        }
+    }
+
+    Control& combinations = c("lblCurrentElevens");
+    if (CombinationCount != 0) {
+        const std::string& word = c("lblElevens").caption();
+        message.setCaption(NumText(CombinationCount) + " " + word.substr(0, word.empty() ? 0 : word.size() - 1) +
+                           "! Bonus = " + NumText(static_cast<long long>(CombinationBonus) * CombinationCount));
+        message.setVisible(true);
+        runtime().refresh();
+        score.setForeColor(0xFFFF00);
+        combinations.setForeColor(0xFFFF00);
+        if (CountDownScore) {
+            while (CombinationCount > 0) {
+                AddToScore(CombinationBonus);
+                ShowScore();
+                runtime().refresh();
+                CombinationCount -= 1;
+                combinations.setCaption(NumText(CombinationCount));
+                Wave("\\Snap.wav");
+                Sleep(75);
+            }
+        } else {
+            AddToScore(static_cast<long long>(CombinationBonus) * CombinationCount);
+            ShowScore();
+            CombinationCount = 0;
+            combinations.setCaption(NumText(CombinationCount));
+            Sleep(1000);
+        }
+    }
+    combinations.setForeColor(0xFF0000);
+
+    const int left = TimeLimit - ElapsedSeconds;
+    if (left >= 1) {
+        message.setCaption("Speed Bonus! " + NumText(static_cast<long long>(left) * TimeBonus));
+        message.setVisible(true);
+        runtime().refresh();
+        score.setForeColor(0xFFFF00);
+        Sleep(1000);
+        if (!CountDownScore) {
+            ElapsedSeconds = TimeLimit;
+            AddToScore(static_cast<long long>(left) * TimeBonus);
+            DrawTimeDial(0, *this);
+            score.setForeColor(255);
+            ShowScore();
+            runtime().refresh();
+            Sleep(1000);
+            score.setForeColor(0);
+        } else {
+            for (int second = ElapsedSeconds + 1; second <= TimeLimit; ++second) {
+                DrawTimeDial(DialAngle(ElapsedSeconds), *this);
+                DialSeconds = static_cast<int16_t>(second);
+                ElapsedSeconds += 1;
+                AddToScore(TimeBonus);
+                ShowScore();
+                runtime().refresh();
+                Wave("\\Snap.wav");
+                Sleep(75);
+            }
+        }
+    }
+
+    DoEvents();
+    TakingScore = false;
+    if (!loaded()) return;
+
+    if (CurrentRound == 1) {
+        message.setCaption("Prepare for Round Two!");
+        message.setVisible(true);
+        BlinkLabel(message, 11, 250);
+        message.setVisible(false);
+        CurrentRound = 2;
+        c("lblCurrentRound").setCaption(NumText(CurrentRound));
+        if (ReplayPending && Round2Deck.size() > 1 && !Round2Deck[1].empty())
+            Deck = Round2Deck;
+        else
+            ShuffleDeck();
+        Deal();
+        message.setVisible(false);
+        DisableCommandButtons(false);
+        FieldCardDisplay(true);
+    } else if (CurrentRound == 2 && CurrentScore >= BonusRoundScore) {
+        Wave("\\HighScore.wav");
+        message.setCaption("Bonus Round!");
+        message.setVisible(true);
+        BlinkLabel(message, 11, 250);
+        message.setVisible(false);
+        CurrentRound = 3;
+        if (ReplayPending && Round3Deck.size() > 1 && !Round3Deck[1].empty())
+            Deck = Round3Deck;
+        else
+            ShuffleDeck();
+        Deal();
+        DisableCommandButtons(false);
+        c("lblCurrentRound").setCaption("Bonus");
+        if (PlayMusic) StartMusic();
+        FieldCardDisplay(true);
+        ReplayPending = false;
+    } else {
+        for (int i = 0; i < kFieldPlaces; ++i) {
+            c("FieldCardPicture", i).setVisible(false);
+            c("FieldSelectionRectangle", i).setVisible(false);
+        }
+        CurrentRound = 1;
+        GameInProgress = false;
+        PreviousScore = CurrentScore;
+        ShowLowerCards(false);
+        c("mnuSave").setEnabled(true);
+        c("mnuOpen").setEnabled(true);
+        c("StatusBar1").setPanel(2, "Game over");
+        c("lblCurrentTotal").setCaption("0");
+
+        if (!UpdateHighScoreTable(kTable, *this) || !loaded() || !ShowHighScore(kTable, *this, kDefaultScore))
+            MsgBox("An error occured when attmpting to access the High Score Table. Please close and restart the "
+                   "game.",
+                   MsgButtons::OK, MsgIcon::Critical, AppTitle);
+        if (!loaded()) return;
+
+        // The caption's Change places the label again, over the field.
+        message.setTop(height() / 2);
+        message.setCaption(kGameOver);
+        message.setForeColor(255);
+        setMousePointer(11);
+        message.setVisible(true);
+        runtime().refresh();
+        Sleep(2000);
+        message.setVisible(false);
+        setMousePointer(0);
+
+        ShowSplash(*this, true);
+        c("cmdExit").setEnabled(true);
+        c("cmdPlay").setEnabled(true);
+        SetPlayCaptions(*this, false);
+        for (const char* name : {"cmdTakeScore", "mnuTakeScore"}) {
+            c(name).setCaption(kReplayCaption);
+            c(name).setEnabled(true);
+        }
+        c("cmdTakeScore").setToolTipText(kReplayTip);
+        for (const char* name : {"mnuExit", "mnuPlay", "mnuTime", "mnuGoal", "mnuScoring"}) c(name).setEnabled(true);
+        c("cmdPause").setEnabled(false);
+        c("mnuPause").setEnabled(false);
+        ElapsedSeconds = TimeLimit;
+        DrawTimeDial(0, *this);
+        ReplayPending = false;
+    }
+
+    ElapsedSeconds = 0;
+    score.setForeColor(0xFF0000);
+    message.setForeColor(255);
+    SelRectangle(false);
+    CardTotalVisible(true);
+    setMousePointer(0);
+}
+
+// After a confirmed End Game: no score goes to the table.
+void frmSumfall::EndGame() {
+    GameInProgress = false;
+    ReplayPending = false;
+    FieldCardDisplay(false);
+    ShowLowerCards(false);
+    c("Timer1").setEnabled(false);
+    c("Timer2").setEnabled(false);
+    ElapsedSeconds = 0;
+    c("lblTime").setCaption("Time:");
+    c("Surface").cls();
+    for (const char* name : {"CardTotalRectangle", "CardTotalBevelSide", "CardTotalBevelBottom"})
+        c(name).setVisible(false);
+    SelRectangle(false);
+    PreviousScore = CurrentScore;
+    CurrentScore = 0;
+    ShowScore();
+    c("lblCurrentTotal").setVisible(false);
+    c("lblTotal").setVisible(false);
+    CurrentRound = 1;
+    c("lblCurrentRound").setCaption(NumText(CurrentRound));
+    CombinationCount = 0;
+    c("lblCurrentElevens").setCaption(NumText(CombinationCount));
+    c("cmdPause").setEnabled(false);
+    for (const char* name : {"cmdTakeScore", "mnuTakeScore"}) {
+        c(name).setCaption(kReplayCaption);
+        c(name).setEnabled(true);
+    }
+    c("cmdTakeScore").setToolTipText(kReplayTip);
+    for (const char* name : {"mnuTime", "mnuGoal", "mnuScoring", "mnuSave", "mnuOpen", "mnuPlay"})
+        c(name).setEnabled(true);
+    c("mnuPause").setEnabled(false);
+    ShowSplash(*this, true);
+    if (PlayMusic) StopMusic();
+}
+
+void frmSumfall::Flash() {
+    for (int i = 0; i < 10; ++i) {
+        DialLastColor = 192;
+        DrawTimeDial(DialAngle(DialSeconds), *this);
+        DoEvents();
+        runtime().refresh();
+        DrawTimeDial(DialAngle(DialSeconds), *this);
+        DrawTimeDial(DialAngle(DialSeconds), *this);
+        DoEvents();
+        runtime().refresh();
+    }
+}
+
+// ---- Saved games ----------------------------------------------------------------------
+
+bool frmSumfall::LoadSavedGame(const std::string& path) {
+    StockCards.assign(31, std::string());
+    std::string text;
+    SavedGame game;
+    if (!ReadWholeFile(path, text) || !ParseSavedGame(text, game)) {
+        MsgBox("Unable to open the requested file. It may be damaged or you may have entered an invalid file name.",
+               MsgButtons::OK, MsgIcon::Critical, AppTitle);
+        return false;
+    }
+    if (game.cardGoal >= 10 && game.cardGoal <= 15) mnuGoal_Click(game.cardGoal);
+    Deck.assign(static_cast<size_t>(DeckSize(game.cardGoal)) + 1, std::string());
+    Round1Deck = game.round1;
+    Round2Deck = game.round2;
+    Round3Deck = game.round3;
+
+    std::string message = SavedGameMessage(game);
+    const bool otherLimit = game.timeLimitRead && game.timeLimit != TimeLimit;
+    if (otherLimit) {
+        message += "This game was saved with the time limit set to " + NumText(game.timeLimit) +
+                   ". Your time limit is currently set to " + NumText(TimeLimit) +
+                   ". Do you want to change your time limit to " + NumText(game.timeLimit) + "?";
+        if (MsgBox(message, MsgButtons::YesNo, MsgIcon::Question, "Saved Game Information") == MsgAnswer::Yes) {
+            TimeLimit = static_cast<int16_t>(game.timeLimit);
+            ApplyTimeSetting(*this, NumText(game.timeLimit), kTimeEntries);
+        }
+    } else {
+        MsgBox(message, MsgButtons::OK, MsgIcon::Information, "Saved Game Information");
+    }
+    ReplayPending = true;
+    c("Timer4").setEnabled(false);
+    c("frmSplash").setVisible(false);
+    c("cmdTakeScore").setCaption(kReplayCaption);
+    cmdTakeScore_Click(false);
+    return true;
+}
+
+}  // namespace ch
