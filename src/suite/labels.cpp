@@ -37,4 +37,8 @@ std::array<ControlSpec, 5> ValueBox(const ValueBoxNames& n, int left, int top, i
     }};
 }
 
+void AppendControls(std::vector<ControlSpec>& layout, std::span<const ControlSpec> part) {
+    layout.insert(layout.end(), part.begin(), part.end());
+}
+
 }  // namespace ch

@@ -4,6 +4,8 @@
 #pragma once
 
 #include <array>
+#include <span>
+#include <vector>
 
 #include "window/control.h"
 
@@ -31,5 +33,8 @@ struct ValueBoxNames {
 };
 // The five controls of a box `width` wide whose caption stands at `top`.
 std::array<ControlSpec, 5> ValueBox(const ValueBoxNames& names, int left, int top, int width, const char* caption);
+
+// Adds a part of a layout to the whole.
+void AppendControls(std::vector<ControlSpec>& layout, std::span<const ControlSpec> part);
 
 }  // namespace ch

@@ -12,7 +12,6 @@
 #include "suite/common.h"
 #include "suite/dial.h"
 #include "suite/frmRules.h"
-#include "suite/gamesettings.h"
 #include "suite/highscores.h"
 #include "suite/labels.h"
 #include "window/basic.h"
@@ -113,10 +112,9 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
     // The round stands as a caption of its own; the round box is not used.
     for (const char* name : {"RoundRectangle", "lblCurrentRound", "RoundBevelSide", "RoundBevelBottom"})
         c(name).setVisible(false);
-    SetTimer(*this, "Timer1", 1000, false);
-    SetTimer(*this, "Timer2", 200, true);
-    SetTimer(*this, "Timer3", 60000, true);
-    SetTimer(*this, "Timer4", 200, false);
+    GameTimers timers;
+    timers.dialBlinkOn = true;
+    SetGameTimers(*this, timers);
     c("cmdTakeScore").setToolTipText("Ends the round and awards points");
     for (int i = 0; i < kFieldSlots; ++i) {
         c("PlayCardSelection", i).setBorderColor(255);
@@ -168,13 +166,11 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
     });
     on("cmdPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
     on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
+    BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
     on("cmdQuit", Ev::Click, [this](EventArgs&) {
         if (!TakingScore) this->runtime().unload(*this);
     });
-    on("mnuExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
-    on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
-    WireDialTimers(*this);
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreIn("lblCurrentScore", "ScoreRectangle"); });
     on("lblScoreTrips", Ev::Change, [this](EventArgs&) { CentreIn("lblScoreTrips", "TripsRectangle"); });
     on("lblScoreRuns", Ev::Change, [this](EventArgs&) { CentreIn("lblScoreRuns", "RunRectangle"); });
@@ -189,7 +185,6 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
         on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmTreyshiftCustom", true); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
-    WireCommonMenus(*this);
 
     expose("TripValue", Expose(TripValue));
     expose("RunValue", Expose(RunValue));
@@ -240,7 +235,7 @@ SettingsLayout frmTreyshift::SettingsSections() {
 }
 
 void frmTreyshift::Form_Load() {
-    SetCommonDefaults(*this, kDefaultTimeLimit);
+    BeginFormLoad(*this, kDefaultTimeLimit, "mnu120");
     TripValue = kDefaults.TripValue;
     RunValue = kDefaults.RunValue;
     FlushValue = kDefaults.FlushValue;
@@ -248,17 +243,10 @@ void frmTreyshift::Form_Load() {
     PenaltyValue = kDefaults.PenaltyValue;
     TimeBonus = kDefaults.TimeBonus;
     BonusScore = kDefaults.BonusScore;
-    c("mnu120").setChecked(true);
-    c("mnuSounds").setChecked(true);
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
     CheckForCustom();
-    GameStartTime = runtime().platform().wallClock();
-    ShowSplashCaptions(*this);
-    CentreOnScreen(*this);
-    InitTimeDial(*this);
-    ShowHighScore(kTable, *this, kTableDefault);
-    setMousePointer(0);
+    CompleteFormLoad(*this, kTable, kTableDefault);
 }
 
 void frmTreyshift::Form_QueryUnload(EventArgs& args) {
@@ -272,8 +260,7 @@ void frmTreyshift::Form_QueryUnload(EventArgs& args) {
 // The cards keep their size: a resize keeps the board in the middle of the
 // window, the buttons and boxes at its right edge, the status bar at the bottom.
 void frmTreyshift::Form_Resize() {
-    if (HoldDesignSize(*this, kDesignWidth, kDesignHeight)) return;
-    PlaceBoard();
+    if (KeepDesignSize(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
 }
 
 void frmTreyshift::PlaceBoard() {

@@ -9,7 +9,7 @@
 #include "games/treyshift/frmTreyshift.h"
 #include "games/treyshift/modTreyshift.h"
 #include "suite/common.h"
-#include "suite/gamesettings.h"
+#include "suite/userdialog.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
