@@ -249,12 +249,9 @@ void frmTreyshift::Form_Load() {
     CompleteFormLoad(*this, kTable, kTableDefault);
 }
 
+// The clock runs on while the question stands.
 void frmTreyshift::Form_QueryUnload(EventArgs& args) {
-    if (!AskYesNo(CloseQuestion())) {
-        args.cancel = true;
-        return;
-    }
-    LeaveGameWindow(*this, kSettingsFile, SettingsSections());
+    ConfirmCloseGameWindow(*this, args, false, nullptr, kSettingsFile, SettingsSections());
 }
 
 // The cards keep their size: a resize keeps the board in the middle of the
