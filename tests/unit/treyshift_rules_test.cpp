@@ -137,6 +137,9 @@ TEST(TreyshiftScoring, ThePenaltyIsEnteredNegativeAndKeptPositive) {
     c = CheckScoringField(penalty, "-20000");
     EXPECT_TRUE(c.valid);
     EXPECT_EQ(c.stored, 20000);
+    EXPECT_EQ(PenaltyText(250), "-250");
+    EXPECT_EQ(PenaltyText(0), "-0");
+    EXPECT_EQ(PenaltyText(-20000), "--20000");
 }
 
 TEST(TreyshiftScoring, FieldsRoundInsideTheirRangeAndTakeTheLimitOutside) {

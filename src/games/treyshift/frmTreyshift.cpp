@@ -13,6 +13,7 @@
 #include "suite/dial.h"
 #include "suite/frmRules.h"
 #include "suite/highscores.h"
+#include "suite/labels.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -23,49 +24,39 @@ using namespace treyshift;
 namespace {
 using K = ControlKind;
 
-const char* const kTable = "TreyshiftHiScores";
-// The table shown at load and by the clear command; the time limit entries
-// and the end of a game pass their own.
-const char* const kTableDefault = "50000";
-const char* const kRoundsDefault = "30000";
 const char* const kSettingsFile = "\\Treyshift.Ini";
-constexpr int kDesignWidth = 9540;
-constexpr int kDesignHeight = 7305;
-constexpr int kCardWidth = 1035;
-constexpr int kCardHeight = 1455;
-
 const TimeEntry kTimeEntries[] = {
     {"mnu60", 60, "&60 seconds"},   {"mnu75", 75, "&75 seconds"},   {"mnu90", 90, "&90 seconds"},
     {"mnu105", 105, "&105 seconds"}, {"mnu120", 120, "1&20 seconds (default)"}, {"mnu135", 135, "1&35 seconds"},
     {"mnu150", 150, "1&50 seconds"}, {"mnu180", 180, "1&80 seconds"},
 };
 
+// The window's design size; every card keeps its size at any window size.
+constexpr int kDesignWidth = 9540;
+constexpr int kDesignHeight = 7305;
+constexpr int kCardWidth = 1035;
+constexpr int kCardHeight = 1455;
 const int kColumnLeft[4] = {2040, 3480, 4920, 6360};
 const int kRowTop[3] = {2160, 2520, 2880};
 const int kTempLeft[3] = {2880, 4200, 5520};
 const int kUpLeft[3] = {3720, 4080, 4440};
 
 // The boxes of this game stand in the right column under the score box.
-const ControlSpec kCounters[] = {
-    {K::Label, "lblTrips", -1, 8220, 4620, 1095, 255, "Trips:"},
-    {K::Shape, "TripsRectangle", -1, 8220, 4890, 1095, 375},
-    {K::Label, "lblScoreTrips", -1, 8265, 4950, 1005, 255, "0"},
-    {K::Line, "TripsBevelSide", -1, 9330, 4905, 0, 375},
-    {K::Line, "TripsBevelBottom", -1, 8235, 5280, 1095, 0},
-    {K::Label, "lblRuns", -1, 8220, 5400, 1095, 255, "Runs:"},
-    {K::Shape, "RunRectangle", -1, 8220, 5670, 1095, 375},
-    {K::Label, "lblScoreRuns", -1, 8265, 5730, 1005, 255, "0"},
-    {K::Line, "RunBevelSide", -1, 9330, 5685, 0, 375},
-    {K::Line, "RunBevelBottom", -1, 8235, 6060, 1095, 0},
-};
+const std::array<ControlSpec, 5> kTripsBox =
+    ValueBox({"lblTrips", "TripsRectangle", "lblScoreTrips", "TripsBevelSide", "TripsBevelBottom"}, 8220, 4620, 1095,
+             "Trips:");
+const std::array<ControlSpec, 5> kRunsBox =
+    ValueBox({"lblRuns", "RunRectangle", "lblScoreRuns", "RunBevelSide", "RunBevelBottom"}, 8220, 5400, 1095, "Runs:");
 
 const ControlSpec kBoardLabels[] = {
     {K::Shape, "FieldRect", -1, 1800, 2040, 5895, 2415},
     {K::Label, "lblFieldCards", -1, 3847, 1770, 1800, 255, "   Playing Field   "},
     {K::Label, "lblTemp", -1, 1140, 840, 1620, 255, "Temporary Storage"},
-    {K::Image, "CardStackPicture", -1, 2160, 4680, kCardWidth, kCardHeight},
+    // The stack pictures are wider and taller than a card.
+    {K::Image, "CardStackPicture", -1, 2160, 4680, 1140, 1470},
     {K::Label, "lblCardCount", -1, 5640, 4800, 2400, 255, "Cards remaining: "},
-    {K::Shape, "ScoringLabelOutline", -1, 2040, 2520, 5415, 1455},
+    // The outline of the round announcements spans the board: they are wide.
+    {K::Shape, "ScoringLabelOutline", -1, 960, 2400, 7080, 1695},
     {K::Label, "lblFlush", -1, 0, 0, 1000, 255, "Flush!"},
 };
 
@@ -79,17 +70,17 @@ const char* const kRightColumn[] = {
 };
 const char* const kBoardArrays[] = {"PlayCard", "PlayCardSelection", "TempCard", "TempCardSelection", "UpCard"};
 const char* const kBoardSingles[] = {"FieldRect", "lblFieldCards", "lblTemp", "CardStackPicture", "UpCardSelection",
-                                     "lblCardCount", "ScoringLabelOutline", "lblHighScore"};
+                                     "lblCardCount", "ScoringLabelOutline"};
+// The high score stands under the card count, clear of the deck.
+constexpr int kHighScoreLeft = 5640;
+constexpr int kHighScoreTop = 5880;
 
 std::vector<ControlSpec> Layout() {
     std::vector<ControlSpec> specs;
-    auto add = [&specs](std::span<const ControlSpec> part) { specs.insert(specs.end(), part.begin(), part.end()); };
-    add(StandingControls());
-    add(TakeScoreButton());
-    add(QuitButton());
-    add(ScoringLabel());
-    add(kCounters);
-    add(kBoardLabels);
+    for (std::span<const ControlSpec> part :
+         {StandingControls(), TakeScoreButton(), QuitButton(), ScoringLabel(), std::span<const ControlSpec>(kTripsBox),
+          std::span<const ControlSpec>(kRunsBox), std::span<const ControlSpec>(kBoardLabels)})
+        AppendControls(specs, part);
     for (int i = 0; i < 3; ++i) {
         specs.push_back({K::Image, "TempCard", i, kTempLeft[i], 240, kCardWidth, kCardHeight});
         specs.push_back({K::Shape, "TempCardSelection", i, kTempLeft[i], 240, kCardWidth, kCardHeight});
@@ -102,35 +93,28 @@ std::vector<ControlSpec> Layout() {
     }
     for (int i = 0; i < 3; ++i) specs.push_back({K::Image, "UpCard", i, kUpLeft[i], 4680, kCardWidth, kCardHeight});
     specs.push_back({K::Shape, "UpCardSelection", -1, 4455, 4680, kCardWidth, kCardHeight});
-    add(FileMenu());
-    add(OptionsMenuHead());
+    AppendControls(specs, FileMenu());
+    AppendControls(specs, OptionsMenuHead());
     specs.push_back({K::Menu, "mnuCustom", -1, 0, 0, 0, 0, "&User Options...", "mnuOptions"});
-    add(OptionsMenuTail());
+    AppendControls(specs, OptionsMenuTail());
     for (const TimeEntry& e : kTimeEntries) specs.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTime"});
-    add(HelpMenu());
+    AppendControls(specs, HelpMenu());
     return specs;
 }
 
 }  // namespace
 
-void RegisterTreyshift(Runtime& runtime) {
-    runtime.registerForm("frmTreyshift", [](Runtime& rt) { return std::make_unique<frmTreyshift>(rt); });
-    runtime.registerForm("frmTreyshiftCustom", [](Runtime& rt) { return std::make_unique<frmTreyshiftCustom>(rt); });
-    RegisterRules("Treyshift!", TreyshiftRules);
-}
-
 frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
     setSize(kDesignWidth, kDesignHeight);
     add(Layout());
     PrepareStandingControls(*this);
-    c("lblHighScore").move(5640, 5880, 2400, 255);
+    c("lblHighScore").move(kHighScoreLeft, kHighScoreTop, 2400, 255);
     // The round stands as a caption of its own; the round box is not used.
     for (const char* name : {"RoundRectangle", "lblCurrentRound", "RoundBevelSide", "RoundBevelBottom"})
         c(name).setVisible(false);
-    SetTimer(*this, "Timer1", 1000, false);
-    SetTimer(*this, "Timer2", 200, true);
-    SetTimer(*this, "Timer3", 60000, true);
-    SetTimer(*this, "Timer4", 200, false);
+    GameTimers timers;
+    timers.dialBlinkOn = true;
+    SetGameTimers(*this, timers);
     c("cmdTakeScore").setToolTipText("Ends the round and awards points");
     for (int i = 0; i < kFieldSlots; ++i) {
         c("PlayCardSelection", i).setBorderColor(255);
@@ -164,32 +148,29 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
     c("lblHighScore").setVisible(true);
     PlaceBoard();
 
+    on("PlayCard", Ev::Click, [this](EventArgs& e) { PlayCard_Click(e.index); });
+    on("TempCard", Ev::Click, [this](EventArgs& e) { TempCard_Click(e.index); });
+    on("UpCard", Ev::Click, [this](EventArgs& e) { UpCard_Click(e.index); });
+    on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
     on(Ev::Load, [this](EventArgs&) { Form_Load(); });
     on(Ev::Resize, [this](EventArgs&) { Form_Resize(); });
     on(Ev::QueryUnload, [this](EventArgs& e) { Form_QueryUnload(e); });
     on("cmdPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(false); });
     on("mnuPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(true); });
-    on("cmdPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
-    on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
-    // The button and the menu entry are refused while a round is being scored.
+    // Take Score, pause and quit are refused while a round is being scored.
     on("cmdTakeScore", Ev::Click, [this](EventArgs&) {
         if (!TakingScore) cmdTakeScore_Click();
     });
     on("mnuTakeScore", Ev::Click, [this](EventArgs&) {
         if (!TakingScore) cmdTakeScore_Click();
     });
+    on("cmdPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
+    BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
     on("cmdQuit", Ev::Click, [this](EventArgs&) {
         if (!TakingScore) this->runtime().unload(*this);
     });
-    on("mnuExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
-    on("PlayCard", Ev::Click, [this](EventArgs& e) { PlayCard_Click(e.index); });
-    on("TempCard", Ev::Click, [this](EventArgs& e) { TempCard_Click(e.index); });
-    on("UpCard", Ev::Click, [this](EventArgs& e) { UpCard_Click(e.index); });
-    on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
-    on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    on("Timer2", Ev::Timer, [this](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *this); });
-    on("Timer3", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
-    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreIn("lblCurrentScore", "ScoreRectangle"); });
     on("lblScoreTrips", Ev::Change, [this](EventArgs&) { CentreIn("lblScoreTrips", "TripsRectangle"); });
     on("lblScoreRuns", Ev::Change, [this](EventArgs&) { CentreIn("lblScoreRuns", "RunRectangle"); });
@@ -202,15 +183,8 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int design = 1; design <= 4; ++design)
         on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
-    on("mnuSounds", Ev::Click, [this](EventArgs&) { SetPlaySounds(*this, !PlaySounds); });
-    on("mnuMusic", Ev::Click, [this](EventArgs&) {
-        SetPlayMusic(*this, !PlayMusic, GameInProgress && c("cmdPause").caption() == kPauseCaption);
-    });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmTreyshiftCustom", true); });
-    on("mnuView", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmHighScores"); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
-    on("mnuRules", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmRules"); });
-    on("mnuAbout", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmAbout"); });
 
     expose("TripValue", Expose(TripValue));
     expose("RunValue", Expose(RunValue));
@@ -241,16 +215,11 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
 
 SettingsLayout frmTreyshift::SettingsSections() {
     SettingsLayout layout = {
-        {"[Time]", [this](const std::string& v) { ApplyTimeSetting(*this, v, kTimeEntries); },
-         [] { return NumText(TimeLimit); }},
-        {"[Play Sounds]", [this](const std::string& v) { SetPlaySounds(*this, ParseBoolText(v)); },
-         [] { return std::string(BoolText(PlaySounds)); }},
-        {"[Play Music]", [this](const std::string& v) { SetPlayMusic(*this, ParseBoolText(v), false); },
-         [] { return std::string(BoolText(PlayMusic)); }},
-        {"[Count Down Score]", [](const std::string& v) { CountDownScore = ParseBoolText(v); },
-         [] { return std::string(BoolText(CountDownScore)); }},
-        {"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kDeckMenus); },
-         [] { return NumText(DeckDesign); }},
+        TimeSection(*this, kTimeEntries),
+        PlaySoundsSection(*this),
+        PlayMusicSection(*this),
+        CountDownSection("[Count Down Score]"),
+        DeckSection(*this, kDeckMenus),
         {"[Time Bonus]", [](const std::string& v) { TimeBonus = CLng(Val(v)); }, [] { return NumText(TimeBonus); }},
         {"[Bonus Score]", [this](const std::string& v) { BonusScore = CLng(Val(v)); },
          [this] { return NumText(BonusScore); }},
@@ -266,14 +235,7 @@ SettingsLayout frmTreyshift::SettingsSections() {
 }
 
 void frmTreyshift::Form_Load() {
-    setMousePointer(11);
-    c("Timer4").setEnabled(true);
-    c("Timer1").setEnabled(false);
-    TimeLimit = kDefaultTimeLimit;
-    PlaySounds = true;
-    PlayMusic = false;
-    DeckDesign = 1;
-    CountDownScore = true;
+    BeginFormLoad(*this, kDefaultTimeLimit, "mnu120");
     TripValue = kDefaults.TripValue;
     RunValue = kDefaults.RunValue;
     FlushValue = kDefaults.FlushValue;
@@ -281,36 +243,21 @@ void frmTreyshift::Form_Load() {
     PenaltyValue = kDefaults.PenaltyValue;
     TimeBonus = kDefaults.TimeBonus;
     BonusScore = kDefaults.BonusScore;
-    c("mnu120").setChecked(true);
-    c("mnuSounds").setChecked(true);
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
     CheckForCustom();
-    GameStartTime = runtime().platform().wallClock();
-    ShowSplashCaptions(*this);
-    CentreOnScreen(*this);
-    InitTimeDial(*this);
-    ShowHighScore(kTable, *this, kTableDefault);
-    setMousePointer(0);
+    CompleteFormLoad(*this, kTable, kTableDefault);
 }
 
+// The clock runs on while the question stands.
 void frmTreyshift::Form_QueryUnload(EventArgs& args) {
-    if (!AskYesNo(CloseQuestion())) {
-        args.cancel = true;
-        return;
-    }
-    LeaveGameWindow(*this, kSettingsFile, SettingsSections());
+    ConfirmCloseGameWindow(*this, args, false, nullptr, kSettingsFile, SettingsSections());
 }
 
 // The cards keep their size: a resize keeps the board in the middle of the
 // window, the buttons and boxes at its right edge, the status bar at the bottom.
 void frmTreyshift::Form_Resize() {
-    if (windowState() == 1) return;
-    if ((width() < kDesignWidth || height() < kDesignHeight) && windowState() == 0) {
-        setSize(kDesignWidth, kDesignHeight);
-        return;
-    }
-    PlaceBoard();
+    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
 }
 
 void frmTreyshift::PlaceBoard() {
@@ -331,7 +278,7 @@ void frmTreyshift::PlaceBoard() {
         if (inRight) control->setLeft(spec.left + right);
         if (onBoard) control->move(spec.left + dx, spec.top + dy, spec.width, spec.height);
     }
-    c("lblHighScore").move(5640 + dx, 5880 + dy, 2400, 255);
+    c("lblHighScore").move(kHighScoreLeft + dx, kHighScoreTop + dy, 2400, 255);
     Control& splash = c("frmSplash");
     splash.setLeft((clientWidth - splash.width()) / 2);
     splash.setTop(480 + dy);
@@ -372,6 +319,14 @@ void frmTreyshift::CheckForCustom() {
     values.TimeBonus = TimeBonus;
     values.BonusScore = BonusScore;
     CustomScoringInUse = IsCustomScoring(values);
+}
+
+// ---- Registration ----------------------------------------------------------------
+
+void RegisterTreyshift(Runtime& runtime) {
+    runtime.registerForm("frmTreyshift", [](Runtime& rt) { return std::make_unique<frmTreyshift>(rt); });
+    runtime.registerForm("frmTreyshiftCustom", [](Runtime& rt) { return std::make_unique<frmTreyshiftCustom>(rt); });
+    RegisterRules("Treyshift!", TreyshiftRules);
 }
 
 }  // namespace ch

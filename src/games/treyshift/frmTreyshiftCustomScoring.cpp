@@ -9,7 +9,7 @@
 #include "games/treyshift/frmTreyshift.h"
 #include "games/treyshift/modTreyshift.h"
 #include "suite/common.h"
-#include "suite/gamewindow.h"
+#include "suite/userdialog.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -81,15 +81,10 @@ frmTreyshiftCustom::frmTreyshiftCustom(Runtime& runtime) : Form(runtime, "frmTre
 frmTreyshift& frmTreyshiftCustom::game() const { return runtime().form<frmTreyshift>("frmTreyshift"); }
 
 void frmTreyshiftCustom::Form_Load() {
-    CentreOnScreen(*this);
-    setCaption(AppTitle + " User Options");
-    c("frmScoringOptions").setCaption("AppTitle Scoring Options");
-    c("lblInfo").setCaption(
-        "Note: Changing any of the Scoring Options will cause your high scores to be marked with an * indicating "
-        "custom scoring was in use.");
+    PrepareUserOptionsDialog(*this);
     frmTreyshift& g = game();
     for (const ScoringFieldSpec& f : kScoringFields) c(f.textBox).setText(NumText(ValueOf(g, f.field)));
-    c("txtPenaltyValue").setText("-" + NumText(g.PenaltyValue));
+    c("txtPenaltyValue").setText(PenaltyText(g.PenaltyValue));
     c("chkCountDown").setValue(CountDownScore ? 1 : 0);
 }
 

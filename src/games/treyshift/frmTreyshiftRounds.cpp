@@ -16,11 +16,6 @@ namespace ch {
 
 using namespace treyshift;
 
-namespace {
-const char* const kTable = "TreyshiftHiScores";
-const char* const kRoundsDefault = "30000";
-}  // namespace
-
 // ---- Play, End Game, pause ----------------------------------------------------------
 
 void frmTreyshift::cmdPlay_Click(bool fromMenu) {
@@ -85,11 +80,15 @@ void frmTreyshift::EndGame() {
     for (const char* name : {"TimerRectangle", "TimerBevelSide", "TimerBevelBottom"}) c(name).setVisible(false);
 }
 
-// A paused game shows no cards.
+// A paused game shows no cards; the message stands over the field.
 void frmTreyshift::cmdPause_Click() {
     if (TakingScore) return;
     if (c("cmdPause").caption() == kPauseCaption) {
         SetPausedControls(*this);
+        Control& message = c("lblMessage");
+        CentreAcross(message);
+        const Control& field = c("FieldRect");
+        message.setTop(field.top() + (field.height() - message.height()) / 2);
         ShowCards(false);
         if (PlayMusic) StopMusic();
     } else {
@@ -239,7 +238,7 @@ void frmTreyshift::RemoveLeftOverCards() {
     Control& scoring = c("lblScoring");
     Control& message = c("lblMessage");
     scoring.setCaption("Removing left over cards");
-    message.setCaption("-" + NumText(PenaltyValue));
+    message.setCaption(PenaltyText(PenaltyValue));
     CentreAcross(scoring);
     CentreAcross(message);
     scoring.setVisible(true);
@@ -248,7 +247,7 @@ void frmTreyshift::RemoveLeftOverCards() {
     Sleep(1000);
 
     Control& flush = c("lblFlush");
-    flush.setCaption("-" + NumText(PenaltyValue));
+    flush.setCaption(PenaltyText(PenaltyValue));
     flush.setBackStyle(0);
     flush.setFontSize(10);
     FitLabelToText(flush);

@@ -62,6 +62,12 @@ const char* StackKey(int deckPosition) {
 
 std::string CardsRemainingText(int deckPosition) { return "Cards remaining: " + NumText(55 - deckPosition); }
 
+std::string PenaltyText(int32_t penalty) {
+    std::string text(1, '-');
+    text += NumText(penalty);
+    return text;
+}
+
 bool IsStuck(const std::array<std::string, kTempSlots>& temp, const std::array<std::string, kFieldSlots>& field) {
     for (const std::string& card : temp)
         if (card.empty()) return false;

@@ -39,6 +39,13 @@ struct ScoringValues {
 inline constexpr ScoringValues kDefaults{};
 constexpr int16_t kDefaultTimeLimit = 120;
 
+// The high score table. A missing table is made with the default score the
+// call passes: the table shown at load and by the clear command passes
+// 50000, the time limit entries and the end of a game pass 30000.
+inline constexpr const char* kTable = "TreyshiftHiScores";
+inline constexpr const char* kTableDefault = "50000";
+inline constexpr const char* kRoundsDefault = "30000";
+
 // True unless every value equals its default.
 bool IsCustomScoring(const ScoringValues& values);
 
@@ -67,6 +74,10 @@ ColumnAward AwardFor(ColumnKind kind, const ScoringValues& values);
 const char* StackKey(int deckPosition);
 // "Cards remaining: 52"; -1 once the empty card past the deck is taken.
 std::string CardsRemainingText(int deckPosition);
+
+// The penalty as the player sees it: a minus sign before the value held,
+// "-250"; "--20000" for the limit kept with its sign.
+std::string PenaltyText(int32_t penalty);
 
 // ---- Round ---------------------------------------------------------------------
 // A full storage and four full bottom slots: the only position taken as stuck.
