@@ -431,7 +431,7 @@ void CompleteFormLoad(Form& window, const std::string& tableName, const std::str
     window.setMousePointer(0);
 }
 
-void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face) {
+void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face, const char* messageLabel) {
     BindStandingTimers(window, splash, face);
     Form* w = &window;
     for (const char* exit : {"cmdExit", "cmdQuit", "mnuExit"})
@@ -443,7 +443,22 @@ void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face) 
     const std::pair<const char*, const char*> modal[] = {
         {"mnuView", "frmHighScores"}, {"mnuRules", "frmRules"}, {"mnuAbout", "frmAbout"}};
     for (const auto& [menu, form] : modal)
-        if (window.has(menu)) window.on(menu, Ev::Click, [w, form](EventArgs&) { ShowModalPaused(*w, form); });
+        if (window.has(menu))
+            window.on(menu, Ev::Click, [w, form, messageLabel](EventArgs&) { ShowModalPaused(*w, form, messageLabel); });
+}
+
+void BindWindowEvents(Form& window, std::function<void()> load, std::function<void()> resize,
+                      std::function<void(EventArgs&)> queryUnload) {
+    window.on(Ev::Load, [load = std::move(load)](EventArgs&) { load(); });
+    window.on(Ev::Resize, [resize = std::move(resize)](EventArgs&) { resize(); });
+    window.on(Ev::QueryUnload, [queryUnload = std::move(queryUnload)](EventArgs& e) { queryUnload(e); });
+}
+
+void BindPlayAndPause(Form& window, std::function<void(bool fromMenu)> play, std::function<void()> pause) {
+    window.on("cmdPlay", Ev::Click, [play](EventArgs&) { play(false); });
+    window.on("mnuPlay", Ev::Click, [play](EventArgs&) { play(true); });
+    window.on("cmdPause", Ev::Click, [pause](EventArgs&) { pause(); });
+    window.on("mnuPause", Ev::Click, [pause](EventArgs&) { pause(); });
 }
 
 void SetGameTimers(Form& window, int splashInterval, bool splashRunning, bool dialRunning) {

@@ -251,8 +251,16 @@ void CompleteFormLoad(Form& window, const std::string& tableName, const std::str
 // The handlers every game window binds alike: Timer2 the dial's blink,
 // Timer3 the time of day, Timer4 the splash ring; cmdExit (or cmdQuit) and
 // mnuExit close the window; mnuSounds and mnuMusic switch; mnuView (where the window has
-// it), mnuRules and mnuAbout open their windows around a pause.
-void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face);
+// it), mnuRules and mnuAbout open their windows around a pause, which
+// reads `messageLabel` to tell a paused or finished game.
+void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face,
+                        const char* messageLabel = "lblMessage");
+// The window's own events: Load, Resize and QueryUnload.
+void BindWindowEvents(Form& window, std::function<void()> load, std::function<void()> resize,
+                      std::function<void(EventArgs&)> queryUnload);
+// cmdPlay and mnuPlay run `play` (told whether the menu was used), cmdPause
+// and mnuPause run `pause`.
+void BindPlayAndPause(Form& window, std::function<void(bool fromMenu)> play, std::function<void()> pause);
 // The four timers of a game window: Timer1 the round clock (1000 ms, off),
 // Timer2 the dial's blink (200 ms, running when `dialRunning`), Timer3 the
 // time of day (60000 ms, on), Timer4 the splash ring.

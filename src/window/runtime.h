@@ -40,6 +40,11 @@ public:
 
     // Forms: registered by name, loaded on demand, a fresh instance after unload.
     void registerForm(const std::string& name, Factory factory);
+    // The same for a form class built from the runtime: registerForm<frmX>("frmX").
+    template <typename F>
+    void registerForm(const std::string& name) {
+        registerForm(name, [](Runtime& rt) -> std::unique_ptr<Form> { return std::make_unique<F>(rt); });
+    }
     bool isKnownForm(const std::string& name) const { return factories_.count(name) != 0; }
     std::vector<std::string> knownForms() const;
     Form* loaded(const std::string& name) const;  // null when not loaded

@@ -139,9 +139,8 @@ std::vector<ControlSpec> Layout() {
 }  // namespace
 
 void RegisterBlackrush(Runtime& runtime) {
-    runtime.registerForm("frmBlackrush", [](Runtime& rt) { return std::make_unique<frmBlackrush>(rt); });
-    runtime.registerForm("frmBlackrushCustomScoring",
-                         [](Runtime& rt) { return std::make_unique<frmBlackrushCustomScoring>(rt); });
+    runtime.registerForm<frmBlackrush>("frmBlackrush");
+    runtime.registerForm<frmBlackrushCustomScoring>("frmBlackrushCustomScoring");
     RegisterBlackrushRules();
 }
 
@@ -223,23 +222,17 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
         if (!fixed) BoardPlaces.push_back({control.get(), control->left(), control->top()});
     }
 
-    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
-    on(Ev::Resize, [this](EventArgs&) { Form_Resize(); });
-    on(Ev::QueryUnload, [this](EventArgs& e) { Form_QueryUnload(e); });
-    on("cmdPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(); });
-    on("mnuPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(); });
-    on("cmdPause", Ev::Click, [this](EventArgs&) { PauseGame(); });
-    on("mnuPause", Ev::Click, [this](EventArgs&) { PauseGame(); });
+    BindWindowEvents(
+        *this, [this] { Form_Load(); }, [this] { Form_Resize(); }, [this](EventArgs& e) { Form_QueryUnload(e); });
+    BindPlayAndPause(*this, [this](bool) { cmdPlay_Click(); }, [this] { PauseGame(); });
     on("cmdTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(); });
     on("mnuTakeScore", Ev::Click, [this](EventArgs&) { mnuTakeScore_Click(); });
-    on("cmdExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
-    on("mnuExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
     on("cmdHit", Ev::Click, [this](EventArgs& e) { cmdHit_Click(e.index); });
     on("cmdPass", Ev::Click, [this](EventArgs&) { cmdPass_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    on("Timer2", Ev::Timer, [this](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *this); });
+    BindSharedHandlers(*this, Splash, SplashFace::RandomFace, "ScoringLabelInfo");
+    // Timer3 is the 21 Counter here; the time of day is Timer6's.
     on("Timer3", Ev::Timer, [this](EventArgs&) { Timer3_Timer(); });
-    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
     on("Timer5", Ev::Timer, [this](EventArgs&) { Timer5_Timer(); });
     on("Timer6", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
     on("lblTime", Ev::Change, [this](EventArgs&) { lblTime_Change(); });
@@ -248,16 +241,13 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int design = 1; design <= 4; ++design)
         on(kReversedDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
-    on("mnuSounds", Ev::Click, [this](EventArgs&) { SetPlaySounds(*this, !PlaySounds); });
+    // The pause button reads "P&ause" here.
     on("mnuMusic", Ev::Click, [this](EventArgs&) {
         SetPlayMusic(*this, !PlayMusic, GameInProgress && c("cmdPause").caption() == kPauseCaptionHere);
     });
     on("mnuUserOptions", Ev::Click,
        [this](EventArgs&) { this->runtime().show("frmBlackrushCustomScoring", true); });
-    on("mnuView", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmHighScores", "ScoringLabelInfo"); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
-    on("mnuRules", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmRules", "ScoringLabelInfo"); });
-    on("mnuAbout", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmAbout", "ScoringLabelInfo"); });
 
     expose("DeckPosition", Expose(DeckPosition));
     expose("PassesLeft", Expose(PassesLeft));

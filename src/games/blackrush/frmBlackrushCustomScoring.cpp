@@ -4,6 +4,7 @@
 #include "games/blackrush/frmBlackrush.h"
 #include "games/blackrush/modBlackrush.h"
 #include "suite/common.h"
+#include "suite/userdialog.h"
 #include "suite/gamewindow.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -57,13 +58,9 @@ const Speed kSpeeds[] = {{"optDefault", kNormalSpeed}, {"optSlow", kSlowSpeed}, 
 frmBlackrushCustomScoring::frmBlackrushCustomScoring(Runtime& runtime) : Form(runtime, "frmBlackrushCustomScoring") {
     setSize(6600, 6420);
     add(kLayout);
-    c("cmdOK").setDefault(true);
-    c("cmdCancel").setCancel(true);
-    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
-    on("cmdDefault", Ev::Click, [this](EventArgs&) { cmdDefault_Click(); });
-    on("cmdCancel", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
-    on("cmdOK", Ev::Click, [this](EventArgs&) { cmdOK_Click(); });
-    for (const char* box : kBoxes) on(box, Ev::GotFocus, [this, box](EventArgs&) { c(box).selectAll(); });
+    BindScoringDialog(
+        *this, [this] { Form_Load(); }, [this] { cmdOK_Click(); }, [this] { cmdDefault_Click(); }, true);
+    for (const char* box : kBoxes) SelectAllOnFocus(*this, box);
 }
 
 frmBlackrush& frmBlackrushCustomScoring::game() const { return runtime().form<frmBlackrush>("frmBlackrush"); }

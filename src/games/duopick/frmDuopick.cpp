@@ -83,9 +83,8 @@ std::vector<ControlSpec> Layout() {
 }  // namespace
 
 void RegisterDuopick(Runtime& runtime) {
-    runtime.registerForm("frmDuopick", [](Runtime& rt) { return std::make_unique<frmDuopick>(rt); });
-    runtime.registerForm("frmDuopickCustomScoring",
-                         [](Runtime& rt) { return std::make_unique<frmDuopickCustomScoring>(rt); });
+    runtime.registerForm<frmDuopick>("frmDuopick");
+    runtime.registerForm<frmDuopickCustomScoring>("frmDuopickCustomScoring");
     RegisterRules("Duopick!", DuopickRulesText);
 }
 
@@ -118,13 +117,9 @@ frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
     c("lblScoring").zOrderFront();
     PlaceBoard();
 
-    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
-    on(Ev::Resize, [this](EventArgs&) { Form_Resize(); });
-    on(Ev::QueryUnload, [this](EventArgs& e) { Form_QueryUnload(e); });
-    on("cmdPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(); });
-    on("mnuPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(); });
-    on("cmdPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
-    on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    BindWindowEvents(
+        *this, [this] { Form_Load(); }, [this] { Form_Resize(); }, [this](EventArgs& e) { Form_QueryUnload(e); });
+    BindPlayAndPause(*this, [this](bool) { cmdPlay_Click(); }, [this] { cmdPause_Click(); });
     on("cmdTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(); });
     on("mnuTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(); });
     on("PlayCard", Ev::Click, [this](EventArgs& e) { PlayCard_Click(e.index); });

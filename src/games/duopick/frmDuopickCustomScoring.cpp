@@ -5,6 +5,7 @@
 #include "games/duopick/frmDuopick.h"
 #include "games/duopick/modDuopick.h"
 #include "suite/common.h"
+#include "suite/userdialog.h"
 #include "suite/gamewindow.h"
 #include "suite/scoringbox.h"
 #include "window/basic.h"
@@ -58,13 +59,9 @@ const ScoringBoxRule kRules[] = {
 frmDuopickCustomScoring::frmDuopickCustomScoring(Runtime& runtime) : Form(runtime, "frmDuopickCustomScoring") {
     setSize(6720, 4920);
     add(kLayout);
-    c("cmdCancel").setCancel(true);
-    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
-    on("cmdDefault", Ev::Click, [this](EventArgs&) { cmdDefault_Click(); });
-    on("cmdCancel", Ev::Click, [this](EventArgs&) { cmdCancel_Click(); });
-    on("cmdOK", Ev::Click, [this](EventArgs&) { cmdOK_Click(); });
-    for (const ScoringBoxRule& rule : kRules)
-        on(rule.box, Ev::GotFocus, [this, box = rule.box](EventArgs&) { c(box).selectAll(); });
+    BindScoringDialog(
+        *this, [this] { Form_Load(); }, [this] { cmdOK_Click(); }, [this] { cmdDefault_Click(); }, false);
+    for (const ScoringBoxRule& rule : kRules) SelectAllOnFocus(*this, rule.box);
 }
 
 frmDuopick& frmDuopickCustomScoring::game() const { return runtime().form<frmDuopick>("frmDuopick"); }
@@ -90,8 +87,6 @@ void frmDuopickCustomScoring::cmdDefault_Click() {
     c("txtTimeBonus").setText(NumText(kDefaultTimeBonus));
     c("chkCountDown").setValue(1);
 }
-
-void frmDuopickCustomScoring::cmdCancel_Click() { runtime().unload(*this); }
 
 // Every box is checked and its value set, whatever the boxes before it did;
 // the rest follows only when the time bonus, the last box, passes.

@@ -18,7 +18,6 @@ private:
     frmDuopick& game() const;
     void Form_Load();
     void cmdDefault_Click();
-    void cmdCancel_Click();
     void cmdOK_Click();
 };
 

@@ -146,9 +146,8 @@ bool KeepsItsOwnPlace(const ControlSpec& s) {
 }  // namespace
 
 void RegisterFivestack(Runtime& runtime) {
-    runtime.registerForm("frmFivestack", [](Runtime& rt) { return std::make_unique<frmFivestack>(rt); });
-    runtime.registerForm("frmFivestackCustomScoring",
-                         [](Runtime& rt) { return std::make_unique<frmFivestackCustomScoring>(rt); });
+    runtime.registerForm<frmFivestack>("frmFivestack");
+    runtime.registerForm<frmFivestackCustomScoring>("frmFivestackCustomScoring");
     RegisterFivestackRules();
 }
 
@@ -204,20 +203,14 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
     for (const char* name : {"ScoringLabelOutline", "ScoringLabelRoundTotal", "ScoringLabel", "ScoringLabelInfo"})
         c(name).zOrderFront();
 
-    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
-    on(Ev::Resize, [this](EventArgs&) { Form_Resize(); });
-    on(Ev::QueryUnload, [this](EventArgs& e) { Form_QueryUnload(e); });
-    on("cmdPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(false); });
-    on("mnuPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(true); });
-    on("cmdPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
-    on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
-    on("cmdQuit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
-    on("mnuExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
+    BindWindowEvents(
+        *this, [this] { Form_Load(); }, [this] { Form_Resize(); }, [this](EventArgs& e) { Form_QueryUnload(e); });
+    BindPlayAndPause(*this, [this](bool fromMenu) { cmdPlay_Click(fromMenu); }, [this] { cmdPause_Click(); });
     on("cmdHit", Ev::Click, [this](EventArgs& e) { cmdHit_Click(e.index); });
     on("cmdPass", Ev::Click, [this](EventArgs&) { cmdPass_Click(); });
     on("cmdGiveUp", Ev::Click, [this](EventArgs&) { cmdGiveUp_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindStandingTimers(*this, Splash, SplashFace::RandomFace);
+    BindSharedHandlers(*this, Splash, SplashFace::RandomFace, "ScoringLabel");
     on("lblCurrentTotal", Ev::Change, [this](EventArgs&) { lblCurrentTotal_Change(); });
     on("lblTotalScore", Ev::Change, [this](EventArgs&) { lblTotalScore_Change(); });
     on("lblHighScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblHighScore", "ScoreRectangle"); });
@@ -228,15 +221,8 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int design = 1; design <= 4; ++design)
         on(kReversedDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
-    on("mnuSounds", Ev::Click, [this](EventArgs&) { SetPlaySounds(*this, !PlaySounds); });
-    on("mnuMusic", Ev::Click, [this](EventArgs&) {
-        SetPlayMusic(*this, !PlayMusic, GameInProgress && c("cmdPause").caption() == kPauseCaption);
-    });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { mnuCustom_Click(); });
-    on("mnuView", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmHighScores", "ScoringLabel"); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
-    on("mnuRules", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmRules", "ScoringLabel"); });
-    on("mnuAbout", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmAbout", "ScoringLabel"); });
 
     expose("BonusScore", Expose(BonusScore));
     expose("TimeBonusMax", Expose(TimeBonusMax));

@@ -3,6 +3,7 @@
 
 #include "games/fivestack/frmFivestack.h"
 #include "suite/common.h"
+#include "suite/userdialog.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -39,13 +40,9 @@ const char* const kBoxes[] = {"txtBonus", "txtTimeBonusMax", "txtTimeBonusMin", 
 frmFivestackCustomScoring::frmFivestackCustomScoring(Runtime& runtime) : Form(runtime, "frmFivestackCustomScoring") {
     setSize(6360, 4860);
     add(kLayout);
-    c("cmdOK").setDefault(true);
-    c("cmdCancel").setCancel(true);
-    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
-    on("cmdDefault", Ev::Click, [this](EventArgs&) { cmdDefault_Click(); });
-    on("cmdCancel", Ev::Click, [this](EventArgs&) { cmdCancel_Click(); });
-    on("cmdOK", Ev::Click, [this](EventArgs&) { cmdOK_Click(); });
-    for (const char* name : kBoxes) on(name, Ev::GotFocus, [this, name](EventArgs&) { c(name).selectAll(); });
+    BindScoringDialog(
+        *this, [this] { Form_Load(); }, [this] { cmdOK_Click(); }, [this] { cmdDefault_Click(); }, true);
+    for (const char* name : kBoxes) SelectAllOnFocus(*this, name);
 }
 
 frmFivestack& frmFivestackCustomScoring::game() const { return runtime().form<frmFivestack>("frmFivestack"); }
@@ -85,8 +82,6 @@ void frmFivestackCustomScoring::cmdDefault_Click() {
     c("txtNumberOfCardsToPass").setText(NumText(kDefaultCardsToPass));
     c("chkCountScore").setValue(1);
 }
-
-void frmFivestackCustomScoring::cmdCancel_Click() { runtime().unload(*this); }
 
 // Each failed field shows its message and takes the text of its test; what
 // passed, and what was clamped, is the game's at once, whatever the rest.

@@ -20,7 +20,6 @@ private:
     Control& box(fivestack::OptionField field) const;
     void Form_Load();
     void cmdDefault_Click();
-    void cmdCancel_Click();
     void cmdOK_Click();
 };
 

@@ -106,8 +106,8 @@ std::vector<ControlSpec> Layout() {
 }  // namespace
 
 void RegisterHandgrid(Runtime& runtime) {
-    runtime.registerForm("frmHandgrid", [](Runtime& rt) { return std::make_unique<frmHandgrid>(rt); });
-    runtime.registerForm("frmHandgridCustom", [](Runtime& rt) { return std::make_unique<frmHandgridCustom>(rt); });
+    runtime.registerForm<frmHandgrid>("frmHandgrid");
+    runtime.registerForm<frmHandgridCustom>("frmHandgridCustom");
     RegisterRules("Handgrid!", HandgridRules);
 }
 
@@ -145,13 +145,9 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
     CenterScoringLabel();
 
     BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
-    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
-    on(Ev::Resize, [this](EventArgs&) { Form_Resize(); });
-    on(Ev::QueryUnload, [this](EventArgs& e) { Form_QueryUnload(e); });
-    on("cmdPlay", Ev::Click, [this](EventArgs&) { Play(); });
-    on("mnuPlay", Ev::Click, [this](EventArgs&) { Play(); });
-    on("cmdPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
-    on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    BindWindowEvents(
+        *this, [this] { Form_Load(); }, [this] { Form_Resize(); }, [this](EventArgs& e) { Form_QueryUnload(e); });
+    BindPlayAndPause(*this, [this](bool) { Play(); }, [this] { cmdPause_Click(); });
     on("cmdQuit", Ev::Click, [this](EventArgs&) {
         if (!TakingScore) this->runtime().unload(*this);
     });

@@ -8,6 +8,7 @@
 #include "games/handgrid/frmHandgrid.h"
 #include "games/handgrid/modHandgrid.h"
 #include "suite/common.h"
+#include "suite/userdialog.h"
 #include "suite/gamewindow.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -52,14 +53,9 @@ std::string DefaultText(int field) {
 frmHandgridCustom::frmHandgridCustom(Runtime& runtime) : Form(runtime, "frmHandgridCustom") {
     setSize(6720, 7020);
     add(Layout());
-    c("cmdOK").setDefault(true);
-    c("cmdCancel").setCancel(true);
-    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
-    on("cmdDefault", Ev::Click, [this](EventArgs&) { cmdDefault_Click(); });
-    on("cmdCancel", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
-    on("cmdOK", Ev::Click, [this](EventArgs&) { cmdOK_Click(); });
-    for (const ScoringField& f : kScoringFieldTable)
-        on(f.textBox, Ev::GotFocus, [this, box = f.textBox](EventArgs&) { c(box).selectAll(); });
+    BindScoringDialog(
+        *this, [this] { Form_Load(); }, [this] { cmdOK_Click(); }, [this] { cmdDefault_Click(); }, true);
+    for (const ScoringField& f : kScoringFieldTable) SelectAllOnFocus(*this, f.textBox);
 }
 
 frmHandgrid& frmHandgridCustom::game() const { return runtime().form<frmHandgrid>("frmHandgrid"); }

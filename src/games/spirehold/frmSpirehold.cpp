@@ -139,8 +139,8 @@ constexpr int kDesignClientHeight = kDesignHeight - 660;
 }  // namespace
 
 void RegisterSpirehold(Runtime& runtime) {
-    runtime.registerForm("frmSpirehold", [](Runtime& rt) { return std::make_unique<frmSpirehold>(rt); });
-    runtime.registerForm("frmSpireholdCustom", [](Runtime& rt) { return std::make_unique<frmSpireholdCustom>(rt); });
+    runtime.registerForm<frmSpirehold>("frmSpirehold");
+    runtime.registerForm<frmSpireholdCustom>("frmSpireholdCustom");
     RegisterRules("Spirehold!", SpireholdRules);
 }
 
@@ -165,17 +165,11 @@ frmSpirehold::frmSpirehold(Runtime& runtime) : Form(runtime, "frmSpirehold") {
     c("lblMessage").zOrderFront();
     c("lblScoring").zOrderFront();
 
-    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
-    on(Ev::Resize, [this](EventArgs&) { Form_Resize(); });
-    on(Ev::QueryUnload, [this](EventArgs& e) { Form_QueryUnload(e); });
-    on("cmdPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(false); });
-    on("mnuPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(true); });
-    on("cmdPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
-    on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    BindWindowEvents(
+        *this, [this] { Form_Load(); }, [this] { Form_Resize(); }, [this](EventArgs& e) { Form_QueryUnload(e); });
+    BindPlayAndPause(*this, [this](bool fromMenu) { cmdPlay_Click(fromMenu); }, [this] { cmdPause_Click(); });
     on("cmdTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(); });
     on("mnuTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(); });
-    on("cmdExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
-    on("mnuExit", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
     on("UpCardImage", Ev::Click, [this](EventArgs& e) { UpCardImage_Click(e.index); });
     on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
     on("UpCardPicture", Ev::Click, [this](EventArgs&) { UpCardPicture_Click(); });
@@ -183,21 +177,16 @@ frmSpirehold::frmSpirehold(Runtime& runtime) : Form(runtime, "frmSpirehold") {
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle"); });
     on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    on("Timer2", Ev::Timer, [this](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *this); });
-    on("Timer3", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
-    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
+    BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
     for (const TimeEntry& entry : kTimeEntries)
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int design = 1; design <= 4; ++design)
         on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
-    on("mnuSounds", Ev::Click, [this](EventArgs&) { SetPlaySounds(*this, !PlaySounds); });
+    // The music switch reads a running game from the pause button and the message.
     on("mnuMusic", Ev::Click, [this](EventArgs&) { SetPlayMusic(*this, !PlayMusic, GameRunning()); });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmSpireholdCustom", true); });
     on("mnuClearHighRun", Ev::Click, [this](EventArgs&) { mnuClearHighRun_Click(); });
-    on("mnuView", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmHighScores"); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
-    on("mnuRules", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmRules"); });
-    on("mnuAbout", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmAbout"); });
 
     expose("CardValue", Expose(CardValue));
     expose("BonusScore", Expose(BonusScore));

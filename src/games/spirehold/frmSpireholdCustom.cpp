@@ -7,6 +7,7 @@
 #include "games/spirehold/frmSpirehold.h"
 #include "games/spirehold/modSpirehold.h"
 #include "suite/common.h"
+#include "suite/userdialog.h"
 #include "suite/gamewindow.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -46,13 +47,9 @@ constexpr std::array<int32_t, 5> kDefaults = {kDefaultCardValue, kDefaultBonusSc
 frmSpireholdCustom::frmSpireholdCustom(Runtime& runtime) : Form(runtime, "frmSpireholdCustom") {
     setSize(8160, 5010);
     add(Layout());
-    c("cmdCancel").setCancel(true);
-    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
-    on("cmdDefault", Ev::Click, [this](EventArgs&) { cmdDefault_Click(); });
-    on("cmdCancel", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
-    on("cmdOK", Ev::Click, [this](EventArgs&) { cmdOK_Click(); });
-    for (const ScoringField& f : kScoringFields)
-        on(f.textBox, Ev::GotFocus, [this, box = f.textBox](EventArgs&) { c(box).selectAll(); });
+    BindScoringDialog(
+        *this, [this] { Form_Load(); }, [this] { cmdOK_Click(); }, [this] { cmdDefault_Click(); }, false);
+    for (const ScoringField& f : kScoringFields) SelectAllOnFocus(*this, f.textBox);
 }
 
 frmSpirehold& frmSpireholdCustom::game() const { return runtime().form<frmSpirehold>("frmSpirehold"); }

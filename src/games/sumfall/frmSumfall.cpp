@@ -130,11 +130,10 @@ bool g_commandLineTaken = false;
 }  // namespace
 
 void RegisterSumfall(Runtime& runtime) {
-    runtime.registerForm("frmSumfall", [](Runtime& rt) { return std::make_unique<frmSumfall>(rt); });
-    runtime.registerForm("frmSumfallCustomScoring",
-                         [](Runtime& rt) { return std::make_unique<frmSumfallCustomScoring>(rt); });
-    runtime.registerForm("frmSave", [](Runtime& rt) { return std::make_unique<frmSave>(rt); });
-    runtime.registerForm("frmOpen", [](Runtime& rt) { return std::make_unique<frmOpen>(rt); });
+    runtime.registerForm<frmSumfall>("frmSumfall");
+    runtime.registerForm<frmSumfallCustomScoring>("frmSumfallCustomScoring");
+    runtime.registerForm<frmSave>("frmSave");
+    runtime.registerForm<frmOpen>("frmOpen");
     RegisterRules("Sumfall!", SumfallRules);
 }
 
@@ -174,14 +173,10 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
     SelectionColor(kDefaultSelectionColour);
     PlaceBoard();
 
-    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
+    BindWindowEvents(
+        *this, [this] { Form_Load(); }, [this] { Form_Resize(); }, [this](EventArgs& e) { Form_QueryUnload(e); });
     on(Ev::Activate, [this](EventArgs&) { Form_Activate(); });
-    on(Ev::Resize, [this](EventArgs&) { Form_Resize(); });
-    on(Ev::QueryUnload, [this](EventArgs& e) { Form_QueryUnload(e); });
-    on("cmdPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(false); });
-    on("mnuPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(true); });
-    on("cmdPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
-    on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
+    BindPlayAndPause(*this, [this](bool fromMenu) { cmdPlay_Click(fromMenu); }, [this] { cmdPause_Click(); });
     on("cmdTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(false); });
     on("mnuTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(true); });
     on("FieldCardPicture", Ev::Click, [this](EventArgs& e) { FieldCardPicture_Click(e.index); });

@@ -5,6 +5,7 @@
 #include "games/sumfall/frmSumfall.h"
 #include "games/sumfall/modSumfall.h"
 #include "suite/common.h"
+#include "suite/userdialog.h"
 #include "suite/gamewindow.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -34,12 +35,9 @@ const std::array<const char*, 4> kBoxes = {"txtBonus", "txtCompletion", "txtElev
 frmSumfallCustomScoring::frmSumfallCustomScoring(Runtime& runtime) : Form(runtime, "frmSumfallCustomScoring") {
     setSize(6120, 4290);
     add(kLayout);
-    c("cmdCancel").setCancel(true);
-    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
-    on("cmdDefault", Ev::Click, [this](EventArgs&) { cmdDefault_Click(); });
-    on("cmdCancel", Ev::Click, [this](EventArgs&) { cmdCancel_Click(); });
-    on("cmdOK", Ev::Click, [this](EventArgs&) { cmdOK_Click(); });
-    for (const char* box : kBoxes) on(box, Ev::GotFocus, [this, box](EventArgs&) { c(box).selectAll(); });
+    BindScoringDialog(
+        *this, [this] { Form_Load(); }, [this] { cmdOK_Click(); }, [this] { cmdDefault_Click(); }, false);
+    for (const char* box : kBoxes) SelectAllOnFocus(*this, box);
 }
 
 frmSumfall& frmSumfallCustomScoring::game() const { return runtime().form<frmSumfall>("frmSumfall"); }
@@ -65,8 +63,6 @@ void frmSumfallCustomScoring::cmdDefault_Click() {
     c("txtElevensBonus").setText(NumText(sumfall::kDefaultCombinationBonus));
     c("txtTimeBonus").setText(NumText(sumfall::kDefaultTimeBonus));
 }
-
-void frmSumfallCustomScoring::cmdCancel_Click() { runtime().unload(*this); }
 
 void frmSumfallCustomScoring::cmdOK_Click() {
     std::array<std::string, 4> texts;

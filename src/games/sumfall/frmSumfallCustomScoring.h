@@ -15,7 +15,6 @@ private:
     frmSumfall& game() const;
     void Form_Load();
     void cmdDefault_Click();
-    void cmdCancel_Click();
     void cmdOK_Click();
 };
 

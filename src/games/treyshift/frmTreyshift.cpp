@@ -152,11 +152,9 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
     on("TempCard", Ev::Click, [this](EventArgs& e) { TempCard_Click(e.index); });
     on("UpCard", Ev::Click, [this](EventArgs& e) { UpCard_Click(e.index); });
     on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
-    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
-    on(Ev::Resize, [this](EventArgs&) { Form_Resize(); });
-    on(Ev::QueryUnload, [this](EventArgs& e) { Form_QueryUnload(e); });
-    on("cmdPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(false); });
-    on("mnuPlay", Ev::Click, [this](EventArgs&) { cmdPlay_Click(true); });
+    BindWindowEvents(
+        *this, [this] { Form_Load(); }, [this] { Form_Resize(); }, [this](EventArgs& e) { Form_QueryUnload(e); });
+    BindPlayAndPause(*this, [this](bool fromMenu) { cmdPlay_Click(fromMenu); }, [this] { cmdPause_Click(); });
     // Take Score, pause and quit are refused while a round is being scored.
     on("cmdTakeScore", Ev::Click, [this](EventArgs&) {
         if (!TakingScore) cmdTakeScore_Click();
@@ -164,8 +162,6 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
     on("mnuTakeScore", Ev::Click, [this](EventArgs&) {
         if (!TakingScore) cmdTakeScore_Click();
     });
-    on("cmdPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
-    on("mnuPause", Ev::Click, [this](EventArgs&) { cmdPause_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
     BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
     on("cmdQuit", Ev::Click, [this](EventArgs&) {
@@ -324,8 +320,8 @@ void frmTreyshift::CheckForCustom() {
 // ---- Registration ----------------------------------------------------------------
 
 void RegisterTreyshift(Runtime& runtime) {
-    runtime.registerForm("frmTreyshift", [](Runtime& rt) { return std::make_unique<frmTreyshift>(rt); });
-    runtime.registerForm("frmTreyshiftCustom", [](Runtime& rt) { return std::make_unique<frmTreyshiftCustom>(rt); });
+    runtime.registerForm<frmTreyshift>("frmTreyshift");
+    runtime.registerForm<frmTreyshiftCustom>("frmTreyshiftCustom");
     RegisterRules("Treyshift!", TreyshiftRules);
 }
 

@@ -67,15 +67,10 @@ int32_t DefaultOf(ScoringField field) {
 frmTreyshiftCustom::frmTreyshiftCustom(Runtime& runtime) : Form(runtime, "frmTreyshiftCustom") {
     setSize(6600, 6180);
     add(Layout());
-    c("cmdOK").setDefault(true);
-    c("cmdCancel").setCancel(true);
     c("txtPenaltyValue").setForeColor(255);
-    on(Ev::Load, [this](EventArgs&) { Form_Load(); });
-    on("cmdDefault", Ev::Click, [this](EventArgs&) { cmdDefault_Click(); });
-    on("cmdCancel", Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
-    on("cmdOK", Ev::Click, [this](EventArgs&) { cmdOK_Click(); });
-    for (const ScoringFieldSpec& f : kScoringFields)
-        on(f.textBox, Ev::GotFocus, [this, box = f.textBox](EventArgs&) { c(box).selectAll(); });
+    BindScoringDialog(
+        *this, [this] { Form_Load(); }, [this] { cmdOK_Click(); }, [this] { cmdDefault_Click(); }, true);
+    for (const ScoringFieldSpec& f : kScoringFields) SelectAllOnFocus(*this, f.textBox);
 }
 
 frmTreyshift& frmTreyshiftCustom::game() const { return runtime().form<frmTreyshift>("frmTreyshift"); }
