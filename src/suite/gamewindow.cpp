@@ -124,6 +124,10 @@ void PlaceControls(Form& window, std::span<const ControlPlace> places) {
     for (const ControlPlace& p : places) window.c(p.name).move(p.left, p.top, p.width, p.height);
 }
 
+void PlaceControls(Form& window, std::span<const ControlSpec> places) {
+    for (const ControlSpec& p : places) window.c(p.name).move(p.left, p.top, p.width, p.height);
+}
+
 void PrepareStandingControls(Form& window) {
     for (const char* big : {"lblMessage", "lblScoring"}) {
         if (Control* label = window.find(big)) {

@@ -90,6 +90,8 @@ struct ControlPlace {
     int left, top, width, height;
 };
 void PlaceControls(Form& window, std::span<const ControlPlace> places);
+// The same from layout entries: each named control takes the entry's place.
+void PlaceControls(Form& window, std::span<const ControlSpec> places);
 
 // The state of the standing controls at load: fonts of the big labels,
 // lblMessage and lblScoring hidden, cmdPause disabled, the play captions and

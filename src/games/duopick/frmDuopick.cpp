@@ -91,7 +91,7 @@ void RegisterDuopick(Runtime& runtime) {
 frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
     setSize(kDesignWidth, kDesignHeight);
     add(Layout());
-    for (const ControlSpec& item : kMessages) c(item.name).move(item.left, item.top, item.width, item.height);
+    PlaceControls(*this, kMessages);
     PrepareStandingControls(*this);
     SetGameTimers(*this, 200, false);
     for (int i = 0; i <= kUpCard; ++i) {

@@ -44,11 +44,7 @@ const std::span<const TimeEntry> kReadableTimes = std::span<const TimeEntry>(kTi
 // The standing controls at Handgrid's places: the grid takes the left of the
 // window, the clock, score and counters stand in a column beside the buttons
 // at the right edge, above the deck stack and the hole.
-struct Place {
-    const char* name;
-    int left, top, width, height;
-};
-const Place kStandingPlaces[] = {
+const ControlPlace kStandingPlaces[] = {
     {"cmdPlay", 8250, 120, 1095, 375},
     {"cmdPause", 8250, 555, 1095, 375},
     {"cmdQuit", 8250, 990, 1095, 375},
@@ -114,7 +110,7 @@ void RegisterHandgrid(Runtime& runtime) {
 frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
     setSize(kDesignWidth, kDesignHeight);
     add(Layout());
-    for (const Place& p : kStandingPlaces) c(p.name).move(p.left, p.top, p.width, p.height);
+    PlaceControls(*this, kStandingPlaces);
     PrepareStandingControls(*this);
     SetTimer(*this, "Timer1", 1000, false);
     SetTimer(*this, "Timer2", 200, true);
@@ -275,7 +271,7 @@ void frmHandgrid::PlaceBoard() {
         c("lblCol", n).setTop(5895 + dy);
         lblCol_Change(n);
     }
-    for (const Place& p : kStandingPlaces) {
+    for (const ControlPlace& p : kStandingPlaces) {
         const std::string name = p.name;
         if (name.rfind("cmd", 0) == 0 || name == "StatusBar1") continue;
         at(c(name), p.left, p.top);

@@ -147,8 +147,8 @@ void RegisterSpirehold(Runtime& runtime) {
 frmSpirehold::frmSpirehold(Runtime& runtime) : Form(runtime, "frmSpirehold") {
     setSize(kDesignWidth, kDesignHeight);
     add(Layout());
-    for (const ControlSpec& p : kPlaces) c(p.name).move(p.left, p.top, p.width, p.height);
-    for (const ControlSpec& p : kButtonPlaces) c(p.name).move(p.left, p.top, p.width, p.height);
+    PlaceControls(*this, kPlaces);
+    PlaceControls(*this, kButtonPlaces);
     PrepareStandingControls(*this);
     SetGameTimers(*this);
     c("cmdExit").setToolTipText("Exits the game");

@@ -35,11 +35,7 @@ const char* const kGoalCaptions[6] = {"1&0", "1&1 (Default)", "1&2", "1&3", "1&4
 // Sumfall's own places for the standing controls: the field takes the middle
 // of the window, so the boxes stand in a row above it and the buttons at the
 // right edge.
-struct Place {
-    const char* name;
-    int left, top, width, height;
-};
-const Place kStandingPlaces[] = {
+const ControlPlace kStandingPlaces[] = {
     {"cmdPlay", 8220, 60, 1095, 300},
     {"cmdTakeScore", 8220, 375, 1095, 300},
     {"cmdPause", 8220, 690, 1095, 300},
@@ -140,7 +136,7 @@ void RegisterSumfall(Runtime& runtime) {
 frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
     setSize(kDesignWidth, kDesignHeight);
     add(Layout());
-    for (const Place& p : kStandingPlaces) c(p.name).move(p.left, p.top, p.width, p.height);
+    PlaceControls(*this, kStandingPlaces);
     PrepareStandingControls(*this);
     SetTimer(*this, "Timer1", 1000, false);
     SetTimer(*this, "Timer2", 200, false);
