@@ -465,13 +465,6 @@ void BindPlayAndPause(Form& window, std::function<void(bool fromMenu)> play, std
     window.on("mnuPause", Ev::Click, [pause](EventArgs&) { pause(); });
 }
 
-void SetGameTimers(Form& window, int splashInterval, bool splashRunning, bool dialRunning) {
-    SetTimer(window, "Timer1", 1000, false);
-    SetTimer(window, "Timer2", 200, dialRunning);
-    SetTimer(window, "Timer3", 60000, true);
-    SetTimer(window, "Timer4", splashInterval, splashRunning);
-}
-
 bool ResizeToPlace(Form& window, int smallestWidth, int smallestHeight) {
     if (window.windowState() == 1) return false;
     if ((window.width() < smallestWidth || window.height() < smallestHeight) && window.windowState() == 0) {

@@ -42,7 +42,6 @@ namespace ch {
 class Form;
 struct EventArgs;
 class RuntimeError;
-struct EventArgs;
 
 // Captions the game logic tests, exactly as they stand.
 inline constexpr const char* kPlayCaption = "&Play";
@@ -263,15 +262,10 @@ void BindWindowEvents(Form& window, std::function<void()> load, std::function<vo
 // cmdPlay and mnuPlay run `play` (told whether the menu was used), cmdPause
 // and mnuPause run `pause`.
 void BindPlayAndPause(Form& window, std::function<void(bool fromMenu)> play, std::function<void()> pause);
-// The four timers of a game window: Timer1 the round clock (1000 ms, off),
-// Timer2 the dial's blink (200 ms, running when `dialRunning`), Timer3 the
-// time of day (60000 ms, on), Timer4 the splash ring.
-void SetGameTimers(Form& window, int splashInterval, bool splashRunning, bool dialRunning = false);
 // Form_Resize's guard: false for a minimised window, and for one below its
 // smallest size, which is set back to it (a further resize follows); true
 // when the board is to be placed.
 bool ResizeToPlace(Form& window, int smallestWidth, int smallestHeight);
-// The sections every settings file has, applied through the menu handlers.
 // The sections most files close with: "[State]", "[Width]", "[Height]" and
 // "[Deck]", appended to `layout`.
 void AddClosingSections(SettingsLayout& layout, Form& window, int designWidth, int designHeight,

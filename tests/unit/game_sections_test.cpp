@@ -73,16 +73,3 @@ TEST_F(GameSections, NumbersOutsideTheSettingsRangeChangeNothing) {
     EXPECT_EQ(SettingsText(layout), "[Small]\r\n-32768\r\n\r\n[Large]\r\n0\r\n\r\n");
 }
 
-TEST_F(GameSections, ALabelFitsItsTextAndStandsInTheMiddleOfItsBox) {
-    window.add({ControlKind::Shape, "ScoreRectangle", -1, 1000, 0, 2000, 375});
-    Control& score = window.add({ControlKind::Label, "lblCurrentScore", -1, 0, 0, 100, 255, "1,500"});
-    CentreLabelIn(window, "lblCurrentScore", "ScoreRectangle");
-    const int width = platform.textWidth("1,500", score.fontSize(), false) + 30;
-    EXPECT_EQ(score.width(), width);
-    EXPECT_EQ(score.left(), 1000 + (2000 - width) / 2);
-    // Never wider than the box.
-    score.setCaption(std::string(60, '9'));
-    CentreLabelIn(window, "lblCurrentScore", "ScoreRectangle");
-    EXPECT_EQ(score.width(), 2000);
-    EXPECT_EQ(score.left(), 1000);
-}

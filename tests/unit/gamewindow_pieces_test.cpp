@@ -61,34 +61,6 @@ TEST_F(GameWindowPieces, PauseAndResumeUseTheLabelTheGameNames) {
     GameInProgress = false;
 }
 
-TEST_F(GameWindowPieces, ALabelFitsItsTextInTheMiddleOfItsBoxAndNeverOutgrowsIt) {
-    Control& box = form->c("ScoreRectangle");
-    box.move(1000, 0, 2000, 400);
-    Control& label = form->c("lblCurrentRound");
-    label.setFont("Arial", 10, false);
-    label.setCaption("12");  // 2 x 110 twips of the headless metrics
-    CentreLabelIn(*form, "lblCurrentRound", "ScoreRectangle");
-    EXPECT_EQ(label.width(), 250);
-    EXPECT_EQ(label.left(), 1875);
-    label.setCaption(std::string(30, '9'));
-    CentreLabelIn(*form, "lblCurrentRound", "ScoreRectangle");
-    EXPECT_EQ(label.width(), 2000);
-    EXPECT_EQ(label.left(), 1000);
-}
-
-TEST_F(GameWindowPieces, ASmallerWindowIsSetBackToItsDesignSize) {
-    form->setSize(12000, 9000);
-    EXPECT_TRUE(ResizeToPlace(*form, 9540, 7305));
-    form->setSize(9000, 9000);
-    EXPECT_FALSE(ResizeToPlace(*form, 9540, 7305));
-    EXPECT_EQ(form->width(), 9540);
-    EXPECT_EQ(form->height(), 7305);
-    form->setWindowState(1);
-    form->setSize(100, 100);
-    EXPECT_FALSE(ResizeToPlace(*form, 9540, 7305));  // minimised: nothing placed
-    EXPECT_EQ(form->width(), 100);
-}
-
 TEST_F(GameWindowPieces, TimeEntriesStandUnderTheTimeMenuAndTickOneAtATime) {
     EXPECT_EQ(form->c("mnu30").container(), "mnuTime");
     EXPECT_EQ(form->c("mnu30").caption(), "&30 seconds (default)");

@@ -115,24 +115,10 @@ TEST_F(SharedSteps, AStepRunsPausedOnlyWhenTheGameRuns) {
     EXPECT_EQ(game.clicks, 4);
 }
 
-TEST_F(SharedSteps, AWindowBelowItsSmallestSizeIsSetBackToIt) {
-    Game game(runtime);
-    game.setSize(9000, 8000);
-    EXPECT_FALSE(ResizeToPlace(game, 9570, 7200));
-    EXPECT_EQ(game.width(), 9570);
-    EXPECT_EQ(game.height(), 7200);
-    EXPECT_TRUE(ResizeToPlace(game, 9570, 7200));
-    game.setWindowState(1);
-    EXPECT_FALSE(ResizeToPlace(game, 9570, 7200));
-    game.setWindowState(2);
-    game.setSize(4000, 3000);
-    EXPECT_TRUE(ResizeToPlace(game, 9570, 7200));
-}
-
 TEST_F(SharedSteps, TheFourTimersOfAGameWindow) {
     Form window(runtime, "frmTimers");
     for (const char* name : {"Timer1", "Timer2", "Timer3", "Timer4"}) window.add({ControlKind::Timer, name, -1, 0, 0, 0, 0});
-    SetGameTimers(window, 250, true);
+    SetGameTimers(window, {.splashInterval = 250, .splashOn = true});
     EXPECT_EQ(window.c("Timer1").interval(), 1000);
     EXPECT_FALSE(window.c("Timer1").enabled());
     EXPECT_EQ(window.c("Timer2").interval(), 200);
@@ -141,7 +127,7 @@ TEST_F(SharedSteps, TheFourTimersOfAGameWindow) {
     EXPECT_EQ(window.c("Timer3").interval(), 60000);
     EXPECT_EQ(window.c("Timer4").interval(), 250);
     EXPECT_TRUE(window.c("Timer4").enabled());
-    SetGameTimers(window, 200, false, true);
+    SetGameTimers(window, {.dialBlinkOn = true});
     EXPECT_TRUE(window.c("Timer2").enabled());
     EXPECT_FALSE(window.c("Timer4").enabled());
 }

@@ -93,7 +93,7 @@ frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
     add(Layout());
     PlaceControls(*this, kMessages);
     PrepareStandingControls(*this);
-    SetGameTimers(*this, 200, false);
+    SetGameTimers(*this);
     for (int i = 0; i <= kUpCard; ++i) {
         c("PlayCard", i).setVisible(false);
         c("PlayCard", i).setBorderStyle(1);
