@@ -258,7 +258,14 @@ protected:
         p.setFont(ControlFont(s.fontName, s.fontSize, s.fontBold));
         const int clock = std::min(width() / 4, 110);
         const int rest = width() - clock - 8;
-        const int widths[3] = {rest / 2, rest - rest / 2, clock};
+        // The goal and the hint share the rest evenly, unless the hint needs
+        // more and the goal can spare it.
+        const QFontMetrics metrics(p.font());
+        const int goal = metrics.horizontalAdvance(Q(s.panels[0]).trimmed()) + 12;
+        const int hint = metrics.horizontalAdvance(Q(s.panels[1]).trimmed()) + 12;
+        int first = rest / 2;
+        if (hint > rest - first) first = std::clamp(std::max(goal, rest - hint), rest / 4, rest / 2);
+        const int widths[3] = {first, rest - first, clock};
         int x = 2;
         for (int i = 0; i < 3; ++i) {
             const QRect panel(x, 3, widths[i] - 2, height() - 5);
