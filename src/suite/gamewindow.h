@@ -6,24 +6,20 @@
 // lacks (cmdTakeScore in Fivestack, cmdExit where the game has cmdQuit) is
 // skipped.
 //
-// Form_Load of a typical game window:
-//   setMousePointer(11); SetTimer(*this, "Timer4", 200, true); c("Timer1").setEnabled(false);
-//   TimeLimit = 45; PlaySounds = true; ... (its defaults)
-//   ShowWelcome(*this);
-//   ReadSettingsINI("\\X.Ini", SettingsSections());           (settings.h)
-//   GameStartTime = wall clock now;  ShowSplashCaptions(*this);
-//   CentreOnScreen(*this);  ShowHighScore(table, *this, "30000");  setMousePointer(0);
+// A typical game window:
+// constructor:   add(layout); PlaceControls; PrepareStandingControls(*this); SetGameTimers(*this);
+//                BindWindowEvents(...); BindPlayAndPause(...); BindSharedHandlers(*this, Splash, face);
+// Form_Load:     BeginFormLoad(*this, 45, "mnu45"); ... (its scoring defaults)
+//                ShowWelcome(*this); ReadSettingsINI("\\X.Ini", SettingsSections());   (settings.h)
+//                CompleteFormLoad(*this, table, "30000");
+// Form_Resize:   if (ResizeToPlace(*this, designWidth, designHeight)) PlaceBoard();
 // Timer1_Timer:  AdvanceRoundClock(*this); ShowTimeWarnings(*this);
 //                if (ElapsedSeconds == TimeLimit) { Timer1 off; hide cards; disable buttons;
 //                    ShowTimesUp(*this); BlinkLabel(c("lblMessage"), 10, 250); take score;
 //                    if lblMessage isn't "Game Over", hide it }
-// Timer2_Timer:  DrawTimeDial(DialAngle(DialSeconds), *this);      (dial.h)
-// Timer3_Timer:  ShowTimeOfDay(*this);
-// Timer4_Timer:  Splash.step(*this, SplashFace::RandomFace);
 // cmdPause:      if caption is kPauseCaption: SetPausedControls; hide cards; StopMusic if PlayMusic
 //                else SetResumedControls; show cards; StartMusic if PlayMusic and GameInProgress
-// Form_QueryUnload: if (!AskYesNo(CloseQuestion())) cancel; else LeaveGameWindow(...)
-// mnuRules / mnuAbout / mnuView: ShowModalPaused(*this, "frmRules");
+// Form_QueryUnload: ConfirmCloseGameWindow(*this, args, settingsFile, SettingsSections());
 // end of the game: FinishGame(*this, table, default, {...}).
 #pragma once
 
