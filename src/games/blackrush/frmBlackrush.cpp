@@ -12,6 +12,7 @@
 #include "suite/common.h"
 #include "suite/dial.h"
 #include "suite/highscores.h"
+#include "suite/windowsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -387,9 +388,7 @@ void frmBlackrush::mnuDeck_Click(int design) {
 }
 
 void frmBlackrush::mnuClear_Click() {
-    if (!AskYesNo(kClearScoresQuestion)) return;
-    CreateHighScoreFile(kTableName, *this, kTableTopScore);
-    ShowHighScore(kTableName, *this, kTableTopScore);
+    ClearHighScores(*this, kTableName, kTableTopScore);
 }
 
 // The menu entry does what the button does, and nothing while the button

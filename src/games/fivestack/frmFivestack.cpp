@@ -12,6 +12,7 @@
 #include "suite/common.h"
 #include "suite/dial.h"
 #include "suite/highscores.h"
+#include "suite/windowsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -374,9 +375,7 @@ void frmFivestack::mnuDeck_Click(int design) {
 }
 
 void frmFivestack::mnuClear_Click() {
-    if (!AskYesNo(kClearScoresQuestion)) return;
-    CreateHighScoreFile(kTable, *this, kDefaultTopScore);
-    ShowHighScore(kTable, *this, kDefaultTopScore);
+    ClearHighScores(*this, kTable, kDefaultTopScore);
 }
 
 void frmFivestack::mnuCustom_Click() { runtime().show("frmFivestackCustomScoring", true); }

@@ -12,6 +12,7 @@
 #include "suite/dial.h"
 #include "suite/frmRules.h"
 #include "suite/highscores.h"
+#include "suite/windowsteps.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -300,9 +301,7 @@ void frmSpirehold::mnuDeck_Click(int design) {
 }
 
 void frmSpirehold::mnuClear_Click() {
-    if (!AskYesNo(kClearScoresQuestion)) return;
-    CreateHighScoreFile(kTable, *this, kDefaultScore);
-    ShowHighScore(kTable, *this, kDefaultScore);
+    ClearHighScores(*this, kTable, kDefaultScore);
 }
 
 // A running game is paused while the question stands and resumed after it.

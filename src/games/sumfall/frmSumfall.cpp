@@ -15,6 +15,7 @@
 #include "suite/dial.h"
 #include "suite/frmRules.h"
 #include "suite/highscores.h"
+#include "suite/windowsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -391,9 +392,7 @@ void frmSumfall::mnuDrawTimer_Click() {
 }
 
 void frmSumfall::mnuClear_Click() {
-    if (!AskYesNo(kClearScoresQuestion)) return;
-    CreateHighScoreFile(kTable, *this, kDefaultScore);
-    ShowHighScore(kTable, *this, kDefaultScore);
+    ClearHighScores(*this, kTable, kDefaultScore);
 }
 
 }  // namespace ch

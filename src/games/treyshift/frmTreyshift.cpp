@@ -13,6 +13,7 @@
 #include "suite/dial.h"
 #include "suite/frmRules.h"
 #include "suite/highscores.h"
+#include "suite/windowsteps.h"
 #include "suite/labels.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -300,9 +301,7 @@ void frmTreyshift::mnuDeck_Click(int design) {
 }
 
 void frmTreyshift::mnuClear_Click() {
-    if (!AskYesNo(kClearScoresQuestion)) return;
-    CreateHighScoreFile(kTable, *this, kTableDefault);
-    ShowHighScore(kTable, *this, kTableDefault);
+    ClearHighScores(*this, kTable, kTableDefault);
 }
 
 void frmTreyshift::CheckForCustom() {
