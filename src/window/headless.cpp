@@ -73,7 +73,16 @@ void HeadlessPlatform::openMessageBox(const MessageBox& box) {
     boxes_.push_back(box);
     PendingAnswer answer{MsgAnswer::OK, now_};
     if (!answers_.empty()) {
-        answer.answer = answers_.front().answer;
+        const QueuedAnswer& queued = answers_.front();
+        answer.answer = queued.answer;
+        if (queued.place != Place::Named) {
+            const bool first = queued.place == Place::First;
+            switch (box.buttons) {
+                case MsgButtons::OK: answer.answer = MsgAnswer::OK; break;
+                case MsgButtons::OKCancel: answer.answer = first ? MsgAnswer::OK : MsgAnswer::Cancel; break;
+                case MsgButtons::YesNo: answer.answer = first ? MsgAnswer::Yes : MsgAnswer::No; break;
+            }
+        }
         answer.at = now_ + answers_.front().afterMs;
         answers_.pop_front();
     } else if (box.buttons != MsgButtons::OK) {

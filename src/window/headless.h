@@ -26,9 +26,13 @@ public:
     };
     using Source = std::function<Step()>;
 
+    // An answer named by its button, or by the button's place in the box: the
+    // first (OK, Yes) or the second (Cancel, No; OK in an OK-only box).
+    enum class Place { Named, First, Second };
     struct QueuedAnswer {
         MsgAnswer answer = MsgAnswer::OK;
         int afterMs = 0;
+        Place place = Place::Named;
     };
 
     HeadlessPlatform();
@@ -37,7 +41,9 @@ public:
     // Called with a text when a message box other than OK-only finds no answer.
     void setFailureReporter(std::function<void(const std::string&)> report) { report_ = std::move(report); }
 
-    void queueAnswer(MsgAnswer answer, int afterMs) { answers_.push_back({answer, afterMs}); }
+    void queueAnswer(MsgAnswer answer, int afterMs) { answers_.push_back({answer, afterMs, Place::Named}); }
+    void queueAnswer(Place place, int afterMs) { answers_.push_back({MsgAnswer::OK, afterMs, place}); }
+    size_t queuedAnswers() const { return answers_.size(); }
     // Input that reached the window system while the logic was busy: the next
     // wait serves it ahead of the timers that fell due meanwhile, as a real
     // message queue serves input before timer ticks.

@@ -136,3 +136,17 @@ TEST(Driver, RandomValuesOutOfBoundsFail) {
     EXPECT_EQ(run.out, "FAIL 2: random 99 is outside 14..65\n");
     EXPECT_EQ(run.status, 1);
 }
+
+TEST(Driver, AnswersByPlacePressTheFirstOrSecondButtonOfAnyBox) {
+    ScriptRun run = RunScript(
+        "click frmSelect.cmdSumfall\n"
+        "click frmSumfall.cmdPlay\n"
+        "answer second\n"
+        "close frmSumfall\n"
+        "print frmSumfall.Loaded\n"
+        "answer first\n"
+        "close frmSumfall\n"
+        "print frmSumfall.Loaded\n");
+    EXPECT_EQ(run.out, "True\nFalse\n");
+    EXPECT_EQ(run.status, 0) << run.out;
+}

@@ -445,13 +445,18 @@ std::optional<HeadlessPlatform::Step> ScriptRunner::execute(const std::vector<st
         if (n != 2 && n != 4) error("answer takes BUTTON [after MS]");
         static const std::map<std::string, MsgAnswer> kAnswers = {
             {"Yes", MsgAnswer::Yes}, {"No", MsgAnswer::No}, {"OK", MsgAnswer::OK}, {"Cancel", MsgAnswer::Cancel}};
-        auto it = kAnswers.find(t[1]);
-        if (it == kAnswers.end()) error("unknown answer " + t[1]);
         int after = 0;
         if (n == 4) {
             if (t[2] != "after") error("answer takes BUTTON [after MS]");
             after = static_cast<int>(number(t[3]));
         }
+        // "first" and "second" press a button by its place, whatever the box holds.
+        if (t[1] == "first" || t[1] == "second") {
+            platform_.queueAnswer(t[1] == "first" ? HeadlessPlatform::Place::First : HeadlessPlatform::Place::Second, after);
+            return std::nullopt;
+        }
+        auto it = kAnswers.find(t[1]);
+        if (it == kAnswers.end()) error("unknown answer " + t[1]);
         platform_.queueAnswer(it->second, after);
         return std::nullopt;
     }

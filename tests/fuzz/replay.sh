@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# replay.sh FUZZ SCRIPT DATA GAME SEED
+# A fuzz run's trail replays in the driver event for event: the run keeps its
+# trail, closed by expectations of the state it ended in, and the driver must
+# meet every one of them.
+set -euo pipefail
+fuzz=$1 script=$2 data=$3 game=$4 seed=$5
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+"$fuzz" --game "$game" --seed "$seed" --events 1500 --data "$data" --trail "$work/trail.script" --keep-trail
+grep -q '^expect CurrentScore' "$work/trail.script"
+"$script" --data "$data" "$work/trail.script"
