@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
+#include <set>
+#include <sys/inotify.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "games/sumfall/modSumfall.h"
 #include "suite/common.h"
@@ -130,41 +133,76 @@ std::string TableChangeFault(const std::vector<ScoreEntry>& before, const std::v
     return "entries lost: " + std::to_string(before.size()) + " before, " + std::to_string(after.size()) + " after";
 }
 
+HomeWatch::HomeWatch(std::string folder) : folder_(std::move(folder)) {
+    notify_ = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    if (notify_ >= 0 && ::inotify_add_watch(notify_, folder_.c_str(), IN_CLOSE_WRITE | IN_MOVED_TO | IN_CREATE) < 0) {
+        ::close(notify_);
+        notify_ = -1;
+    }
+}
+
+HomeWatch::~HomeWatch() {
+    if (notify_ >= 0) ::close(notify_);
+}
+
 std::string HomeWatch::look(long long score) {
     namespace fs = std::filesystem;
-    std::error_code ec;
-    for (fs::directory_iterator it(folder_, ec), end; !ec && it != end; it.increment(ec)) {
-        const std::string name = it->path().filename().string();
-        const HomeFileKind kind = KindOfHomeFile(name);
-        if (kind == HomeFileKind::Other) continue;
-        if (kind == HomeFileKind::Temporary) return name + ": a temporary file left behind";
-        struct stat st {};
-        if (::stat(it->path().c_str(), &st) != 0 || !S_ISREG(st.st_mode)) continue;
-        Seen& seen = seen_[name];
-        const int64_t mtime = static_cast<int64_t>(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
-        if (seen.size == st.st_size && seen.mtime == mtime && seen.inode == st.st_ino) continue;
-        seen.size = st.st_size;
-        seen.mtime = mtime;
-        seen.inode = st.st_ino;
-        std::string text;
-        if (!ReadWholeFile(it->path().string(), text)) return name + ": cannot be read back";
-        std::string fault;
-        switch (kind) {
-            case HomeFileKind::Settings: fault = SettingsFault(text); break;
-            case HomeFileKind::SavedGame: fault = SavedGameFault(text); break;
-            case HomeFileKind::Table: {
-                fault = TableFault(text);
-                if (!fault.empty()) break;
-                std::vector<ScoreEntry> entries = ParseHighScoreText(text);
-                fault = TableChangeFault(seen.entries, entries, score);
-                seen.entries = std::move(entries);
-                break;
-            }
-            default: break;
-        }
-        if (!fault.empty()) return name + ": " + fault;
+    std::set<std::string> names;
+    if (first_ || notify_ < 0) {
+        // The first look, or no inotify: every file.
+        first_ = false;
+        std::error_code ec;
+        for (fs::directory_iterator it(folder_, ec), end; !ec && it != end; it.increment(ec))
+            names.insert(it->path().filename().string());
     }
+    if (notify_ >= 0) {
+        alignas(inotify_event) char buffer[16384];
+        for (;;) {
+            const ssize_t n = ::read(notify_, buffer, sizeof buffer);
+            if (n <= 0) break;
+            for (ssize_t at = 0; at < n;) {
+                const auto* event = reinterpret_cast<const inotify_event*>(buffer + at);
+                if (event->len > 0) names.insert(event->name);
+                at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
+            }
+        }
+    }
+    for (const std::string& name : names)
+        if (std::string fault = lookAt(name, score); !fault.empty()) return fault;
     return "";
+}
+
+std::string HomeWatch::lookAt(const std::string& name, long long score) {
+    const std::string path = folder_ + "/" + name;
+    const HomeFileKind kind = KindOfHomeFile(name);
+    if (kind == HomeFileKind::Other) return "";
+    // Every write ends within its event: a temporary file still there is litter.
+    if (kind == HomeFileKind::Temporary) return FileExists(path) ? name + ": a temporary file left behind" : "";
+    struct stat st {};
+    if (::stat(path.c_str(), &st) != 0 || !S_ISREG(st.st_mode)) return "";
+    Seen& seen = seen_[name];
+    const int64_t mtime = static_cast<int64_t>(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
+    if (seen.size == st.st_size && seen.mtime == mtime && seen.inode == st.st_ino) return "";
+    seen.size = st.st_size;
+    seen.mtime = mtime;
+    seen.inode = st.st_ino;
+    std::string text;
+    if (!ReadWholeFile(path, text)) return name + ": cannot be read back";
+    std::string fault;
+    switch (kind) {
+        case HomeFileKind::Settings: fault = SettingsFault(text); break;
+        case HomeFileKind::SavedGame: fault = SavedGameFault(text); break;
+        case HomeFileKind::Table: {
+            fault = TableFault(text);
+            if (!fault.empty()) break;
+            std::vector<ScoreEntry> entries = ParseHighScoreText(text);
+            fault = TableChangeFault(seen.entries, entries, score);
+            seen.entries = std::move(entries);
+            break;
+        }
+        default: break;
+    }
+    return fault.empty() ? "" : name + ": " + fault;
 }
 
 std::string ShownScoreFault(Runtime& runtime, const std::string& gameForm) {

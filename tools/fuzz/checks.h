@@ -33,14 +33,21 @@ std::string SavedGameFault(const std::string& text);
 std::string TableChangeFault(const std::vector<ScoreEntry>& before, const std::vector<ScoreEntry>& after,
                              long long score);
 
+// Watches the home folder through inotify, so that a look reads only the
+// files written since the last one, however many saved games pile up.
 class HomeWatch {
 public:
-    explicit HomeWatch(std::string folder) : folder_(std::move(folder)) {}
+    explicit HomeWatch(std::string folder);
+    ~HomeWatch();
+    HomeWatch(const HomeWatch&) = delete;
+    HomeWatch& operator=(const HomeWatch&) = delete;
     // Looks at every file changed since the last look; the first fault found,
     // or empty. `score` is the game's CurrentScore now.
     std::string look(long long score);
 
 private:
+    std::string lookAt(const std::string& name, long long score);
+
     struct Seen {
         int64_t size = -1;
         int64_t mtime = 0;
@@ -48,6 +55,8 @@ private:
         std::vector<ScoreEntry> entries;  // tables only
     };
     std::string folder_;
+    int notify_ = -1;
+    bool first_ = true;
     std::map<std::string, Seen> seen_;
 };
 

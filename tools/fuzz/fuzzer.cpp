@@ -139,6 +139,9 @@ FuzzResult Fuzzer::result() const {
 std::string Fuzzer::check() {
     if (gameWasInProgress_ && !GameInProgress && runtime_.loaded(options_.game)) ++result_.gamesCompleted;
     gameWasInProgress_ = GameInProgress;
+    // What was heard and shown is read off, so a long run keeps no record of it.
+    platform_.takeSounds();
+    for (const MessageBox& box : platform_.takeMessageBoxes()) ++result_.messageBoxes[box.text.substr(0, 80)];
     std::string fault = home_.look(CurrentScore);
     if (fault.empty()) fault = ShownScoreFault(runtime_, options_.game);
     return fault;

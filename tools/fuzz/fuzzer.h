@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <random>
 #include <string>
 #include <vector>
@@ -36,6 +37,7 @@ struct FuzzResult {
     long long gamesCompleted = 0;  // Play to Game Over
     int64_t virtualMs = 0;
     std::string fault;  // empty when every check held
+    std::map<std::string, long long> messageBoxes;  // how often each text was shown
 };
 
 // The headless platform with a watchdog on virtual time: the loop must come

@@ -19,7 +19,7 @@ namespace {
 
 constexpr char kUsage[] =
     "usage: cardhaven-fuzz --game NAME [--seed N] [--events N] [--data DIR] [--trail FILE] [--keep-trail]\n"
-    "                      [--home DIR]\n";
+    "                      [--stats] [--home DIR]\n";
 
 struct Game {
     const char* name;
@@ -51,6 +51,7 @@ int main(int argc, char** argv) {
     ch::FuzzOptions options;
     std::string data;
     std::string gameName;
+    bool stats = false;
     for (int i = 1; i < argc; ++i) {
         const std::string arg = argv[i];
         auto value = [&]() -> std::string {
@@ -66,7 +67,8 @@ int main(int argc, char** argv) {
                          "score or to Clear, the score shown is CurrentScore. On a fault the trail FILE\n"
                          "(default cardhaven-fuzz-GAME-SEED.script) replays it: cardhaven-script --data DIR FILE.\n"
                          "--keep-trail keeps it after a clean run too, ending in expectations of the\n"
-                         "state the run reached, so that a replay checks itself.\n";
+                         "state the run reached, so that a replay checks itself. --stats counts the\n"
+                         "message boxes shown, by text.\n";
             return 0;
         } else if (arg == "--game") gameName = value();
         else if (arg == "--seed") options.seed = std::strtoull(value().c_str(), nullptr, 10);
@@ -75,6 +77,7 @@ int main(int argc, char** argv) {
         else if (arg == "--trail") options.trail = value();
         else if (arg == "--home") options.home = value();
         else if (arg == "--keep-trail") options.keepTrail = true;
+        else if (arg == "--stats") stats = true;
         else Usage("unknown argument " + arg);
     }
     const Game* game = nullptr;
@@ -108,6 +111,8 @@ int main(int argc, char** argv) {
     }
     std::cout << gameName << " seed " << options.seed << ": " << result.events << " events, " << result.gamesCompleted
               << " games completed, " << result.virtualMs / 1000 << " s of virtual time, " << seconds << " s\n";
+    if (stats)
+        for (const auto& [text, count] : result.messageBoxes) std::cout << "  " << count << "  " << text << "\n";
     if (!result.fault.empty()) {
         std::cout << "FAULT " << result.fault << "\nreplay: cardhaven-script --data DATA " << options.trail << "\n";
         return 1;

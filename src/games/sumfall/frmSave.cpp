@@ -76,7 +76,7 @@ void frmSave::Form_Load() {
 void frmSave::cmdOK_Click() {
     frmSumfall& game = runtime().form<frmSumfall>("frmSumfall");
     sumfall::SavedGame saved;
-    saved.cardGoal = CardGoal;
+    saved.cardGoal = game.DecksCardGoal;
     saved.timeLimit = TimeLimit;
     saved.score = PreviousScore;
     saved.custom = CustomScoringInUse;
@@ -85,7 +85,7 @@ void frmSave::cmdOK_Click() {
     saved.round2 = game.Round2Deck;
     saved.round3 = game.Round3Deck;
     const std::string path = browser_.targetPath(*this);
-    if (!WriteFileAtomic(path, sumfall::SavedGameText(saved))) {
+    if (!sumfall::SavedGameBrowser::IsFileName(path) || !WriteFileAtomic(path, sumfall::SavedGameText(saved))) {
         MsgBox("Unable to save the file. Please verify that you have entered a valid path and file name.",
                MsgButtons::OK, MsgIcon::Critical, AppTitle);
         return;

@@ -48,6 +48,9 @@ public:
 
     // The deck of each round as dealt: what Replay and saved games use.
     std::vector<std::string> Round1Deck, Round2Deck, Round3Deck;
+    // The card goal those decks were made for, which sets their size: a saved
+    // game names it, so that it reads back even after the goal was changed.
+    int DecksCardGoal = sumfall::kDefaultCardGoal;
 
     // Reads a saved game and starts its replay; false when it can't be read.
     bool LoadSavedGame(const std::string& path);

@@ -58,6 +58,7 @@ void frmSumfall::Play() {
         ok = CreateSumfallDeck() && ShuffleDeck();
         if (ok) {
             for (auto* round : {&Round1Deck, &Round2Deck, &Round3Deck}) round->assign(Deck.size(), std::string());
+            DecksCardGoal = CardGoal;
         }
     }
     ok = ok && Deal(true);
@@ -387,6 +388,7 @@ bool frmSumfall::LoadSavedGame(const std::string& path) {
     }
     if (game.cardGoal >= 10 && game.cardGoal <= 15) mnuGoal_Click(game.cardGoal);
     Deck.assign(static_cast<size_t>(DeckSize(game.cardGoal)) + 1, std::string());
+    DecksCardGoal = game.cardGoal;
     Round1Deck = game.round1;
     Round2Deck = game.round2;
     Round3Deck = game.round3;

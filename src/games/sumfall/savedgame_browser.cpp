@@ -56,4 +56,10 @@ std::string SavedGameBrowser::targetPath(Form& dialog) {
     return path + name;
 }
 
+bool SavedGameBrowser::IsFileName(const std::string& path) {
+    const size_t slash = path.rfind('/');
+    const std::string name = slash == std::string::npos ? path : path.substr(slash + 1);
+    return !name.empty() && name.find_first_of("*?") == std::string::npos;
+}
+
 }  // namespace ch::sumfall

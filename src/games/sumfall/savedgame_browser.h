@@ -25,6 +25,9 @@ public:
     // The file to save or open: the folder, a separator, and txtGameName,
     // to which ".sfl" is added when the name has no dot.
     std::string targetPath(Form& dialog);
+    // False for a path whose name holds a wildcard ("*.sfl" as the dialog
+    // opens): that is a pattern, never the name of a file to write.
+    static bool IsFileName(const std::string& path);
 
     const std::string& folder() const { return folder_; }
 
