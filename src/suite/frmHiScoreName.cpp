@@ -2,6 +2,7 @@
 
 #include "suite/gamewindow.h"
 #include "suite/common.h"
+#include "window/basic.h"
 #include "window/runtime.h"
 
 namespace ch {
@@ -32,7 +33,9 @@ void frmHiScoreName::Form_Load() {
 }
 
 void frmHiScoreName::cmdOK_Click() {
-    const std::string name = c("lblPlayerName").text();
+    // The table's reader trims a name, so it is stored trimmed: what the Hall of
+    // Fame shows is what was entered, and a name of blanks is no name.
+    const std::string name = Trim(c("lblPlayerName").text());
     if (name.find(',') != std::string::npos) {
         MsgBox("Sorry, you may not use commas in your name.", MsgButtons::OK, MsgIcon::Critical, AppTitle);
         return;

@@ -37,6 +37,7 @@ public:
         add({ControlKind::Timer, "TimerA", -1, 0, 0, 0, 0});
         add({ControlKind::Timer, "TimerB", -1, 0, 0, 0, 0});
         add({ControlKind::Label, "lblMessage", -1, 0, 0, 100, 100});
+        add({ControlKind::TextBox, "txtName", -1, 0, 0, 100, 100});
         add({ControlKind::Button, "cmdGo", -1, 0, 0, 100, 100, "&Go", "fraBox"});
         add({ControlKind::Frame, "fraBox", -1, 0, 0, 100, 100});
         add({ControlKind::Menu, "mnuFile", -1, 0, 0, 0, 0, "&File"});
@@ -203,6 +204,21 @@ TEST_F(LoopTest, HiddenOrDisabledControlsFramesMenusAndFormsGetNoClick) {
     runtime.hide(f);
     clickGo();
     EXPECT_TRUE(log.empty());
+}
+
+TEST_F(LoopTest, ATextBoxKeepsTheFirstLineOfWhatIsTyped) {
+    TestForm& f = show();
+    for (const char* typed : {"Ann\r\nBo", "Ann\nBo", "Ann\r"}) {
+        Step step;
+        step.kind = Step::Kind::Input;
+        step.event.kind = InputKind::SetText;
+        step.event.form = "frmTest";
+        step.event.control = "txtName";
+        step.event.text = typed;
+        steps = {step};
+        run();
+        EXPECT_EQ(f.c("txtName").text(), "Ann") << typed;
+    }
 }
 
 TEST_F(LoopTest, AFormUnloadedByItsOwnHandlerIsFreshWhenShownAgain) {

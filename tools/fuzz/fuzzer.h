@@ -29,6 +29,9 @@ struct FuzzOptions {
     long long events = 10000;
     std::string home;   // a fresh folder
     std::string trail;  // where the script of the run is written
+    // The game's tables, one a time limit (and card goal): the run starts with
+    // low scores in them, so that games played at random make the tables too.
+    std::vector<std::string> tables;
     bool keepTrail = false;  // keep it after a clean run too, closed by expectations of the end state
 };
 
@@ -80,6 +83,7 @@ private:
     std::string event();
     std::string advance();
     std::string text(bool fileName);
+    std::string lowTable();
     Form* pickForm();
     Control* pickControl(Form& form, bool (*fits)(const Control&));
     std::string ref(const Control& control) const;
@@ -94,6 +98,7 @@ private:
     std::mt19937_64 random_;
     HomeWatch home_;
     FuzzResult result_;
+    size_t tablesWritten_ = 0;
     bool lastWasStep_ = false;
     bool gameWasInProgress_ = false;
     int trailFd_ = -1;

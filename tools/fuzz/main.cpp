@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <iostream>
 #include <string>
+#include <vector>
 #include <unistd.h>
 
 #include "tools/fuzz/fuzzer.h"
@@ -25,12 +26,17 @@ struct Game {
     const char* name;
     const char* form;
     const char* button;
+    const char* table;
+    std::vector<int> limits;
 };
-constexpr Game kGames[] = {
-    {"sumfall", "frmSumfall", "cmdSumfall"},       {"fivestack", "frmFivestack", "cmdFivestack"},
-    {"blackrush", "frmBlackrush", "cmdBlackrush"}, {"spirehold", "frmSpirehold", "cmdSpirehold"},
-    {"duopick", "frmDuopick", "cmdDuopick"},       {"handgrid", "frmHandgrid", "cmdHandgrid"},
-    {"treyshift", "frmTreyshift", "cmdTreyshift"},
+const Game kGames[] = {
+    {"sumfall", "frmSumfall", "cmdSumfall", "HiScores", {30, 60, 90, 120, 150, 180}},
+    {"fivestack", "frmFivestack", "cmdFivestack", "HiScores", {15, 30, 45, 60, 75}},
+    {"blackrush", "frmBlackrush", "cmdBlackrush", "BlackrushHiScores", {15, 30, 60, 90, 120}},
+    {"spirehold", "frmSpirehold", "cmdSpirehold", "SpireholdHiScores", {30, 45, 60, 90}},
+    {"duopick", "frmDuopick", "cmdDuopick", "DuopickHighScores", {30, 45, 60, 75, 90, 105, 120}},
+    {"handgrid", "frmHandgrid", "cmdHandgrid", "HandgridHighScores", {30, 45, 60, 75, 90, 105, 120}},
+    {"treyshift", "frmTreyshift", "cmdTreyshift", "TreyshiftHiScores", {60, 75, 90, 105, 120, 135, 150, 180}},
 };
 
 [[noreturn]] void Usage(const std::string& complaint) {
@@ -86,6 +92,12 @@ int main(int argc, char** argv) {
     if (!game) Usage("--game takes one of the seven games");
     options.game = game->form;
     options.selectorButton = game->button;
+    for (int limit : game->limits) {
+        const std::string stem = game->table + std::to_string(limit);
+        if (gameName != "sumfall") options.tables.push_back(stem + ".Txt");
+        else
+            for (int goal = 10; goal <= 15; ++goal) options.tables.push_back(stem + "_" + std::to_string(goal) + ".Txt");
+    }
     if (options.trail.empty())
         options.trail = "cardhaven-fuzz-" + gameName + "-" + std::to_string(options.seed) + ".script";
 

@@ -5,6 +5,8 @@
 #include <map>
 
 #include "suite/cards.h"
+#include "suite/common.h"
+#include "suite/files.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -479,6 +481,13 @@ std::optional<HeadlessPlatform::Step> ScriptRunner::execute(const std::vector<st
             std::sscanf(t[2].c_str(), "%d:%d:%d", &d.hour, &d.minute, &d.second) != 3)
             error("clock takes YYYY-MM-DD HH:MM:SS");
         platform_.setWallClock(d);
+        return std::nullopt;
+    }
+    if (cmd == "file") {
+        // A file of the home folder, written as the suite writes its own.
+        needs(3);
+        if (t[1].empty() || t[1].find('/') != std::string::npos) error("file takes a name in the home folder");
+        if (!WriteFileAtomic(AppPath + "/" + t[1], t[2])) fail("file " + t[1] + " cannot be written");
         return std::nullopt;
     }
     if (cmd == "print") {
