@@ -116,13 +116,18 @@ void Runtime::show(Form& form, bool modal) {
     Form* below = topModal();
     form.modal_ = true;
     modalStack_.push_back(&form);
+    boxesUnder_[&form] = answers_.size();
+    const auto leave = [this, &form] {
+        modalStack_.erase(std::find(modalStack_.begin(), modalStack_.end(), &form));
+        boxesUnder_.erase(&form);
+    };
     try {
         runUntil([&form] { return !form.visible_ || !form.loaded_; });
     } catch (...) {
-        modalStack_.erase(std::find(modalStack_.begin(), modalStack_.end(), &form));
+        leave();
         throw;
     }
-    modalStack_.erase(std::find(modalStack_.begin(), modalStack_.end(), &form));
+    leave();
     form.modal_ = false;
     if (below && below->loaded_) below->raise(nullptr, Ev::Activate);
 }
@@ -271,7 +276,7 @@ void Runtime::dispatch(const InputEvent& event) {
         if (!answers_.empty() && !answers_.back()) answers_.back() = event.answer;
         return;
     }
-    if (!answers_.empty()) return;  // input goes only to the open message box
+    if (awaitingMessageBox()) return;  // input goes only to the open message box
     Form* form = loaded(event.form);
     if (!form) return;
     switch (event.kind) {
@@ -289,6 +294,15 @@ void Runtime::dispatch(const InputEvent& event) {
     Control* control = form->find(event.control, event.index);
     if (!control || !accepts(*form, control)) return;
     dispatchToControl(*form, *control, event);
+}
+
+bool Runtime::awaitingMessageBox() const {
+    // A modal form opened while a box stood (a timer's handler may open one)
+    // lies above that box and takes input; a box opened since lies above it.
+    const size_t under = modalStack_.empty() ? 0 : boxesUnder_.at(modalStack_.back());
+    for (size_t i = under; i < answers_.size(); ++i)
+        if (!answers_[i]) return true;
+    return false;
 }
 
 void Runtime::dispatchToControl(Form& form, Control& control, const InputEvent& event) {

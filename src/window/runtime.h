@@ -94,6 +94,7 @@ private:
     void fireDueTimer();
     Control* earliestTimer() const;
     void dispatchToControl(Form& form, Control& control, const InputEvent& event);
+    bool awaitingMessageBox() const;
     void pressKey(Form& form, Control& control, int key);
     void destroy(Form& form);
 
@@ -102,6 +103,7 @@ private:
     std::vector<std::unique_ptr<Form>> forms_;      // loaded, in load order
     std::vector<std::unique_ptr<Form>> graveyard_;  // unloaded, freed when idle at the top
     std::vector<Form*> modalStack_;
+    std::map<const Form*, size_t> boxesUnder_;  // message boxes open when each modal form was shown
     std::map<std::string, VariableGetter> globals_;
     int depth_ = 0;
     std::set<const Control*> runningTimers_;  // a timer does not fire inside its own handler

@@ -43,12 +43,16 @@ public:
         add({ControlKind::Menu, "mnuFile", -1, 0, 0, 0, 0, "&File"});
         add({ControlKind::Menu, "mnuPlay", -1, 0, 0, 0, 0, "&Play", "mnuFile"});
         on("TimerA", Ev::Timer, [this](EventArgs&) { log_.push_back("A@" + std::to_string(runtime().now())); if (onA) onA(); });
-        on("TimerB", Ev::Timer, [this](EventArgs&) { log_.push_back("B@" + std::to_string(runtime().now())); });
+        on("TimerB", Ev::Timer, [this](EventArgs&) {
+            log_.push_back("B@" + std::to_string(runtime().now()));
+            if (onB) onB();
+        });
         on("lblMessage", Ev::Change, [this](EventArgs&) { log_.push_back("change:" + c("lblMessage").caption()); });
         on("cmdGo", Ev::Click, [this](EventArgs&) { log_.push_back("go"); if (onGo) onGo(); });
         on("mnuPlay", Ev::Click, [this](EventArgs&) { log_.push_back("play"); });
     }
     std::function<void()> onA;
+    std::function<void()> onB;
     std::function<void()> onGo;
 
 private:
@@ -145,6 +149,30 @@ TEST_F(LoopTest, TimersKeepFiringWhileAMessageBoxIsOpen) {
     EXPECT_EQ(answer, MsgAnswer::Yes);
     EXPECT_EQ(log, (std::vector<std::string>{"go", "B@200", "B@400"}));
     ASSERT_EQ(platform.takeMessageBoxes().size(), 1u);
+}
+
+TEST_F(LoopTest, AModalFormATimerOpensOverAMessageBoxTakesInput) {
+    // A round that ends while "Giving up so soon?" stands asks for a name:
+    // that window must take its OK, or the box below never returns.
+    struct Dialog : Form {
+        explicit Dialog(Runtime& rt, std::vector<std::string>& log) : Form(rt, "frmDialog") {
+            add({ControlKind::Button, "cmdOK", -1, 0, 0, 100, 100, "OK"});
+            on("cmdOK", Ev::Click, [this, &log](EventArgs&) { log.push_back("ok"); runtime().unload(*this); });
+        }
+    };
+    runtime.registerForm("frmDialog", [this](Runtime& rt) { return std::make_unique<Dialog>(rt, log); });
+    TestForm& f = show();
+    f.c("TimerB").setInterval(200);
+    f.c("TimerB").setEnabled(true);
+    f.onGo = [&] { MsgBox("Giving up so soon?", MsgButtons::YesNo, MsgIcon::Question, "Test"); log.push_back("answered"); };
+    f.onB = [&] {
+        f.c("TimerB").setEnabled(false);
+        runtime.show("frmDialog", true);
+    };
+    platform.queueAnswer(MsgAnswer::Yes, 500);
+    steps = {Click("frmTest", "cmdGo"), Click("frmDialog", "cmdOK")};
+    run();
+    EXPECT_EQ(log, (std::vector<std::string>{"go", "B@200", "ok", "answered"}));
 }
 
 TEST_F(LoopTest, AModalFormTakesAllInputUntilItCloses) {
