@@ -144,6 +144,13 @@ std::string Fuzzer::check() {
     for (const MessageBox& box : platform_.takeMessageBoxes()) ++result_.messageBoxes[box.text.substr(0, 80)];
     std::string fault = home_.look(CurrentScore);
     if (fault.empty()) fault = ShownScoreFault(runtime_, options_.game);
+    // A modal window that random input cannot close in thousands of events
+    // does not answer the player either.
+    Form* modal = runtime_.topModal();
+    modalEvents_ = modal && modal == lastModal_ ? modalEvents_ + 1 : 0;
+    lastModal_ = modal;
+    if (fault.empty() && modalEvents_ > kStuckEvents)
+        fault = modal->name() + " stays open through " + std::to_string(kStuckEvents) + " events";
     return fault;
 }
 

@@ -98,6 +98,9 @@ private:
     std::mt19937_64 random_;
     HomeWatch home_;
     FuzzResult result_;
+    static constexpr long kStuckEvents = 3000;
+    const Form* lastModal_ = nullptr;
+    long modalEvents_ = 0;
     size_t tablesWritten_ = 0;
     bool lastWasStep_ = false;
     bool gameWasInProgress_ = false;
