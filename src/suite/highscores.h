@@ -55,8 +55,10 @@ std::string DefaultHighScoreText(const std::string& defaultScore);
 bool CreateHighScoreFile(const std::string& tableName, Form& window, const std::string& defaultScore);
 
 // lblHighScore = "High Score: " + the first score ("Current High Score: " in
-// frmSpirehold), formatted "###,###,###,##0"; a missing table is created first.
-// False when the table can neither be read nor made.
+// frmSpirehold), formatted "###,###,###,##0"; a missing table is created first,
+// one that is there but can't be read is left alone. False, with the label
+// emptied, when the table can neither be read nor made or its first score is
+// out of range.
 bool ShowHighScore(const std::string& tableName, Form& window, const std::string& defaultScore);
 
 // Offers CurrentScore to the table. At the first entry whose score is lower

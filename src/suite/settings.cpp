@@ -1,5 +1,7 @@
 #include "suite/settings.h"
 
+#include <set>
+
 #include "suite/common.h"
 #include "suite/files.h"
 #include "window/basic.h"
@@ -44,15 +46,34 @@ void ApplySettingsText(const std::string& text, const SettingsLayout& layout) {
     }
 }
 
+namespace {
+// Files found but not read at the last load: the window runs on its defaults
+// and leaves them as they are, rather than writing the defaults over settings
+// it never saw.
+std::set<std::string>& UnreadFiles() {
+    static std::set<std::string> files;
+    return files;
+}
+}  // namespace
+
 bool WriteSettingsINI(const std::string& fileName, const SettingsLayout& layout) {
-    return WriteFileAtomic(AppFile(fileName), SettingsText(layout));
+    const std::string path = AppFile(fileName);
+    if (UnreadFiles().count(path)) return false;
+    return WriteFileAtomic(path, SettingsText(layout));
 }
 
 void ReadSettingsINI(const std::string& fileName, const SettingsLayout& layout) {
+    const std::string path = AppFile(fileName);
     std::string text;
-    if (!ReadWholeFile(AppFile(fileName), text)) {
+    ReadOutcome outcome = ReadOutcome::Read;
+    UnreadFiles().erase(path);
+    if (!ReadWholeFile(path, text, &outcome)) {
+        if (outcome == ReadOutcome::Unreadable) {
+            UnreadFiles().insert(path);
+            return;
+        }
         if (!WriteSettingsINI(fileName, layout)) return;
-        if (!ReadWholeFile(AppFile(fileName), text)) return;
+        if (!ReadWholeFile(path, text)) return;
     }
     ApplySettingsText(text, layout);
 }
