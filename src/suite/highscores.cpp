@@ -53,10 +53,10 @@ std::string HighScoreFileName(const std::string& tableName) {
     return AppFile(name + ".Txt");
 }
 
-std::vector<ScoreEntry> ParseHighScoreText(const std::string& text) {
+std::vector<ScoreEntry> ParseHighScoreText(const std::string& text, size_t most) {
     std::vector<ScoreEntry> entries;
     size_t start = 0;
-    while (start < text.size()) {
+    while (start < text.size() && entries.size() < most) {
         size_t end = text.find('\n', start);
         if (end == std::string::npos) end = text.size();
         std::string line = text.substr(start, end - start);
@@ -106,7 +106,7 @@ bool ShowHighScore(const std::string& tableName, Form& window, const std::string
         if (!CreateHighScoreFile(tableName, window, defaultScore)) return fail();
         if (!ReadWholeFile(HighScoreFileName(tableName), text)) return fail();
     }
-    const std::vector<ScoreEntry> entries = ParseHighScoreText(text);
+    const std::vector<ScoreEntry> entries = ParseHighScoreText(text, 1);
     long long score = 0;
     if (!entries.empty() && !ScoreValue(entries.front().score, score)) return fail();
     const std::string prefix = window.name() == "frmSpirehold" ? "Current High Score: " : "High Score: ";
@@ -117,7 +117,8 @@ bool ShowHighScore(const std::string& tableName, Form& window, const std::string
 bool UpdateHighScoreTable(const std::string& tableName, Form&) {
     std::string text;
     if (!ReadWholeFile(HighScoreFileName(tableName), text)) return false;
-    const std::vector<ScoreEntry> entries = ParseHighScoreText(text);
+    // Ten lines are written at most, one or two for each entry read.
+    const std::vector<ScoreEntry> entries = ParseHighScoreText(text, 10);
 
     std::string table;
     int count = 0;
