@@ -128,7 +128,7 @@ bool ReadWholeFile(const std::string& path, std::string& out, ReadOutcome* outco
 bool WriteFileAtomic(const std::string& path, const std::string& content) {
     const FileFault fault = FaultOf(path);
     if (fault == FileFault::ReadOnly) return false;
-    if (Exists(path) && (fault == FileFault::Unreadable || ::access(path.c_str(), W_OK) != 0)) return false;
+    if (Exists(path) && ::access(path.c_str(), W_OK) != 0) return false;
     RemoveStaleTemporaries(path);
     const std::string temp = path + ".tmp" + std::to_string(::getpid());
     const int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);

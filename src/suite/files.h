@@ -31,7 +31,7 @@ bool FileExists(const std::string& path);
 // root, which no permission stops). The program itself never sets one.
 enum class FileFault {
     None,
-    Unreadable,  // an existing file can be neither read nor replaced
+    Unreadable,  // an existing file can't be read (an I/O error); it can still be replaced
     ReadOnly,    // no file can be made or replaced: a read-only folder
     DiskFull,    // writing the temporary file stops half way (no space left)
     SyncFails,   // the temporary file is written but its sync fails

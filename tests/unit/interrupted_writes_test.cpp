@@ -2,6 +2,7 @@
 // high score table or a saved game over and over, alternating two contents,
 // and is killed with SIGKILL. The file is then the one content or the other,
 // whole; what a killed writer leaves beside it is cleared by the next write.
+// And writes that fail on a full disk, a read-only folder or a failed sync.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -172,4 +173,38 @@ TEST_F(InterruptedWrites, TemporariesOfLiveWritersStay) {
     EXPECT_FALSE(fs::exists(path + ".tmp" + std::to_string(gone)));
     EXPECT_TRUE(fs::exists(path + ".tmp" + std::to_string(getppid())));
     EXPECT_TRUE(fs::exists(AppPath + "/Other.Txt.tmp" + std::to_string(gone)));
+}
+
+// A write that fails at any step keeps the old file and leaves nothing beside
+// it; a read tells a missing file from one that is there but can't be read.
+TEST_F(InterruptedWrites, FailedWritesKeepTheOldFileAndReadsTellMissingFromUnreadable) {
+    const std::string path = AppPath + "/Sumfall.Ini";
+    ASSERT_TRUE(WriteFileAtomic(path, "old"));
+    for (const FileFault fault : {FileFault::ReadOnly, FileFault::DiskFull, FileFault::SyncFails}) {
+        SetFileFault(fault, fault == FileFault::ReadOnly ? AppPath : path);
+        EXPECT_FALSE(WriteFileAtomic(path, std::string(100000, 'n')));
+        ClearFileFaults();
+        EXPECT_EQ(Read(path), "old");
+        EXPECT_TRUE(Temporaries().empty());
+    }
+    fs::create_directory(AppPath + "/Folder.Ini");
+    EXPECT_FALSE(WriteFileAtomic(AppPath + "/Folder.Ini", "new"));
+    EXPECT_TRUE(fs::is_directory(AppPath + "/Folder.Ini"));
+
+    struct Case {
+        std::string path;
+        ReadOutcome outcome;
+    };
+    SetFileFault(FileFault::Unreadable, AppPath + "/Locked");
+    std::ofstream(AppPath + "/Locked.Txt") << "x";
+    for (const Case& c : {Case{path, ReadOutcome::Read}, Case{AppPath + "/None.Ini", ReadOutcome::Missing},
+                          Case{path + "/below", ReadOutcome::Missing}, Case{AppPath + "/Folder.Ini", ReadOutcome::Unreadable},
+                          Case{AppPath + "/Locked.Txt", ReadOutcome::Unreadable},
+                          Case{AppPath + "/Locked.Gone", ReadOutcome::Missing}}) {
+        std::string text = "kept";
+        ReadOutcome outcome = ReadOutcome::Read;
+        EXPECT_EQ(ReadWholeFile(c.path, text, &outcome), c.outcome == ReadOutcome::Read) << c.path;
+        EXPECT_EQ(outcome, c.outcome) << c.path;
+        EXPECT_EQ(text, c.outcome == ReadOutcome::Read ? "old" : "kept") << c.path;
+    }
 }
