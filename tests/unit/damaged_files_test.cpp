@@ -86,62 +86,47 @@ public:
     }
 
     void then(std::function<void()> check) { plan_.emplace_back(std::move(check)); }
-    // A click made only if `when` holds at that moment.
-    void clickIf(std::function<bool()> when, const std::string& form, const std::string& control) {
-        click(form, control);
-        Step step = std::get<Step>(plan_.back());
-        plan_.back() = Maybe{std::move(when), step};
-    }
-    void click(const std::string& form, const std::string& control, int index = -1) {
+    // An input, made only if `when` holds at that moment.
+    void input(InputKind kind, const std::string& form, const std::string& control = "", const std::string& text = "",
+               std::function<bool()> when = [] { return true; }) {
         Step step;
         step.kind = Step::Kind::Input;
+        step.event.kind = kind;
         step.event.form = form;
         step.event.control = control;
-        step.event.index = index;
-        plan_.emplace_back(step);
+        step.event.text = text;
+        plan_.emplace_back(Maybe{std::move(when), step});
+    }
+    void click(const std::string& form, const std::string& control) { input(InputKind::Click, form, control); }
+    void clickIf(std::function<bool()> when, const std::string& form, const std::string& control) {
+        input(InputKind::Click, form, control, "", std::move(when));
     }
     void type(const std::string& form, const std::string& control, const std::string& text) {
-        click(form, control);
-        std::get<Step>(plan_.back()).event.kind = InputKind::SetText;
-        std::get<Step>(plan_.back()).event.text = text;
-    }
-    void advance(int64_t ms) {
-        Step step;
-        step.kind = Step::Kind::Advance;
-        step.ms = ms;
-        plan_.emplace_back(step);
-    }
-    void answer(MsgAnswer a) {
-        then([this, a] { platform_.queueAnswer(a, 0); });
+        input(InputKind::SetText, form, control, text);
     }
     void answerIf(std::function<bool()> when, MsgAnswer a) {
         then([this, when, a] {
             if (when()) platform_.queueAnswer(a, 0);
         });
     }
-    // Opens the game from the selector, and closes it with Yes.
+    void answer(MsgAnswer a) { answerIf([] { return true; }, a); }
+    // Opens the game from the selector; closes it with Yes.
     void open(const Game& g) { click("frmSelect", g.button); }
-    void close(const Game& g) {
-        closeIf([] { return true; }, g);
-    }
+    void close(const Game& g) { closeIf([] { return true; }, g); }
     void closeIf(const std::function<bool()>& when, const Game& g) {
         answerIf(when, MsgAnswer::Yes);
-        Step step;
-        step.kind = Step::Kind::Input;
-        step.event.kind = InputKind::Close;
-        step.event.form = g.form;
-        plan_.emplace_back(Maybe{when, step});
+        input(InputKind::Close, g.form, "", "", when);
     }
-    // A whole game left to the clock: every round runs out, no bonus round;
-    // time passes a second at a time until the game is over.
+    // A whole game left to the clock: every round runs out, no bonus round.
     void play(const Game& g) {
         click(g.form, "cmdPlay");
         toTheEnd(1000);
     }
-    // Lets time pass until the game is over, `seconds` at most.
+    // Time passes a second at a time until the game is over, `seconds` at
+    // most; then "Game Over" stands its two seconds.
     void toTheEnd(int seconds, bool mustEnd = true) {
         plan_.emplace_back(Until{[] { return !GameInProgress; }, seconds, mustEnd});
-        advance(2000);  // "Game Over" stands, the splash returns
+        plan_.emplace_back(Until{[] { return false; }, 2, false});
     }
 
     void run() {
@@ -186,31 +171,26 @@ private:
                 return step;
             }
         while (!plan_.empty()) {
-            if (auto* until = std::get_if<Until>(&plan_.front())) {
+            auto& item = plan_.front();
+            if (auto* until = std::get_if<Until>(&item)) {
                 if (!until->done() && until->seconds-- > 0) {
                     Step step;
                     step.kind = Step::Kind::Advance;
                     step.ms = 1000;
                     return step;
                 }
-                EXPECT_TRUE(until->done() || !until->mustEnd) << "the game never ended";
+                EXPECT_TRUE(until->done() || !until->mustEnd) << "the game never ended (" << what << ")";
                 plan_.pop_front();
-                continue;
-            }
-            if (auto* maybe = std::get_if<Maybe>(&plan_.front())) {
+            } else if (auto* maybe = std::get_if<Maybe>(&item)) {
                 const bool go = maybe->when();
                 const Step step = maybe->step;
                 plan_.pop_front();
                 if (go) return step;
-                continue;
+            } else {
+                const auto check = std::move(std::get<std::function<void()>>(item));
+                plan_.pop_front();
+                check();
             }
-            auto item = std::move(plan_.front());
-            plan_.pop_front();
-            if (auto* check = std::get_if<std::function<void()>>(&item)) {
-                (*check)();
-                continue;
-            }
-            return std::get<Step>(item);
         }
         return Step{};  // the end: quit
     }
@@ -227,7 +207,7 @@ private:
         std::function<bool()> when;
         Step step;
     };
-    std::deque<std::variant<Step, std::function<void()>, Until, Maybe>> plan_;
+    std::deque<std::variant<std::function<void()>, Until, Maybe>> plan_;
 };
 
 // The corpus made from a valid file: what a crash, another program or a
@@ -268,12 +248,11 @@ std::string WithNumbers(const std::string& text, const std::string& number) {
     return out;
 }
 
-std::vector<Damage> Corpus(const std::string& valid, unsigned seed, bool cuts) {
+// Cut at every byte (the first cut is the empty file), then the rest; the
+// index of a cut is its length.
+std::vector<Damage> Corpus(const std::string& valid, unsigned seed) {
     std::vector<Damage> corpus;
-    if (cuts)
-        for (size_t k = 0; k < valid.size(); ++k) corpus.push_back({"cut at " + std::to_string(k), valid.substr(0, k)});
-    else
-        corpus.push_back({"empty", ""});
+    for (size_t k = 0; k < valid.size(); ++k) corpus.push_back({"cut at " + std::to_string(k), valid.substr(0, k)});
     corpus.push_back({"LF line ends", WithLineEnds(valid, "\n")});
     corpus.push_back({"CR line ends", WithLineEnds(valid, "\r")});
     std::mt19937 random(seed);
@@ -306,6 +285,15 @@ std::vector<Damage> Corpus(const std::string& valid, unsigned seed, bool cuts) {
     return corpus;
 }
 
+// A fresh home folder, in memory where there is such a folder: a sync there
+// costs nothing.
+fs::path MakeHome() {
+    std::error_code ec;
+    const fs::path base = fs::is_directory("/dev/shm", ec) ? fs::path("/dev/shm") : fs::temp_directory_path();
+    std::string pattern = (base / "cardhaven-damaged-XXXXXX").string();
+    return mkdtemp(pattern.data()) ? fs::path(pattern) : fs::path();
+}
+
 // The section names of a settings text, in order.
 std::vector<std::string> Sections(const std::string& text) {
     std::vector<std::string> names;
@@ -322,12 +310,8 @@ std::vector<std::string> Sections(const std::string& text) {
 class DamagedFiles : public ::testing::TestWithParam<Game> {
 protected:
     void SetUp() override {
-        // In memory where there is such a folder: a sync there costs nothing.
-        std::error_code ec;
-        const fs::path base = fs::is_directory("/dev/shm", ec) ? fs::path("/dev/shm") : fs::temp_directory_path();
-        std::string pattern = (base / "cardhaven-damaged-XXXXXX").string();
-        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-        home = pattern;
+        home = MakeHome();
+        ASSERT_FALSE(home.empty());
     }
     void TearDown() override {
         ClearFileFaults();
@@ -361,11 +345,14 @@ TEST_P(DamagedFiles, SettingsFileOpensAndIsWrittenWhole) {
     const Game& g = GetParam();
     std::string settings, table;
     Fresh(settings, table);
-    const std::vector<Damage> corpus = Corpus(settings, 14, true);
+    const std::vector<Damage> corpus = Corpus(settings, 14);
     Session s(home);
     for (size_t i = 0; i < corpus.size(); ++i) {
         const Damage& d = corpus[i];
-        s.then([&, this] { WriteText(home / g.settings, d.text); });
+        s.then([&, this] {
+            s.what = d.what;
+            WriteText(home / g.settings, d.text);
+        });
         s.open(g);
         s.then([&] { EXPECT_TRUE(s.shown(g.form)) << d.what; });
         // A game to its end now and then; every file at least opens and closes.
@@ -439,12 +426,13 @@ TEST_P(DamagedFiles, TablesShowTheirTopScoreAndLoseNoEntry) {
     std::string valid = "Ann, 71200\r\nBob*, 900\r\n";
     for (int i = 0; i < 8; ++i) valid += "P" + std::to_string(i) + ", -" + std::to_string(100000 + i) + "\r\n";
     valid += "Eleventh, -300000\r\n\r\n";
-    const std::vector<Damage> corpus = Corpus(valid, 6, true);
+    const std::vector<Damage> corpus = Corpus(valid, 6);
     const fs::path file = home / g.table;
     Session s(home);
     for (size_t i = 0; i < corpus.size(); ++i) {
         const Damage& d = corpus[i];
         s.then([&, this] {
+            s.what = d.what;
             WriteText(home / g.settings, settings);
             WriteText(file, d.text);
         });
@@ -547,11 +535,8 @@ INSTANTIATE_TEST_SUITE_P(EveryGame, DamagedFiles, ::testing::ValuesIn(kGames), G
 // game it was and replays it; the file itself is never touched.
 TEST(DamagedSavedGames, AreRefusedOrReplayed) {
     const Game& g = kGames[0];
-    std::error_code ec;
-    const fs::path base = fs::is_directory("/dev/shm", ec) ? fs::path("/dev/shm") : fs::temp_directory_path();
-    std::string pattern = (base / "cardhaven-saved-XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    const fs::path home = pattern;
+    const fs::path home = MakeHome();
+    ASSERT_FALSE(home.empty());
 
     // A game of two rounds, saved.
     std::string valid;
@@ -572,7 +557,7 @@ TEST(DamagedSavedGames, AreRefusedOrReplayed) {
     const size_t deckStart = valid.find("[Round 1 Deck]\r\n") + 16;
     const size_t lastCard = valid.rfind("\r\n", valid.find("[Round 2 Deck]") - 3) + 2;
 
-    std::vector<Damage> corpus = Corpus(valid, 22, true);
+    std::vector<Damage> corpus = Corpus(valid, 22);
     corpus.push_back({"whole", valid});
     corpus.push_back({"no last line end", valid.substr(0, valid.size() - 2)});
     corpus.push_back({"a folder", ""});
@@ -653,5 +638,6 @@ TEST(DamagedSavedGames, AreRefusedOrReplayed) {
     }
     s.close(g);
     s.run();
+    std::error_code ec;
     fs::remove_all(home, ec);
 }
