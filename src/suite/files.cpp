@@ -28,11 +28,6 @@ FileFault FaultOf(const std::string& path) {
     return FileFault::None;
 }
 
-bool Exists(const std::string& path) {
-    struct stat st {};
-    return ::stat(path.c_str(), &st) == 0;
-}
-
 // Writes all of `content`; false on any error (a full disk among them).
 bool WriteAll(int fd, const std::string& content, bool diskFull) {
     const size_t limit = diskFull ? content.size() / 2 : content.size();
@@ -95,7 +90,8 @@ void ClearFileFaults() { Faults().clear(); }
 bool ReadWholeFile(const std::string& path, std::string& out, ReadOutcome* outcome) {
     ReadOutcome dummy;
     ReadOutcome& result = outcome ? *outcome : dummy;
-    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    // Not blocking: a pipe in the file's place must not hold the program.
+    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (fd < 0) {
         result = errno == ENOENT || errno == ENOTDIR ? ReadOutcome::Missing : ReadOutcome::Unreadable;
         return false;
@@ -128,11 +124,14 @@ bool ReadWholeFile(const std::string& path, std::string& out, ReadOutcome* outco
 bool WriteFileAtomic(const std::string& path, const std::string& content) {
     const FileFault fault = FaultOf(path);
     if (fault == FileFault::ReadOnly) return false;
-    if (Exists(path) && ::access(path.c_str(), W_OK) != 0) return false;
+    struct stat old {};
+    const bool exists = ::stat(path.c_str(), &old) == 0;
+    if (exists && ::access(path.c_str(), W_OK) != 0) return false;
     RemoveStaleTemporaries(path);
     const std::string temp = path + ".tmp" + std::to_string(::getpid());
     const int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     if (fd < 0) return false;
+    if (exists && S_ISREG(old.st_mode)) ::fchmod(fd, old.st_mode & 07777);  // the new file keeps the old one's mode
     const bool written = WriteAll(fd, content, fault == FileFault::DiskFull);
     const bool synced = written && fault != FileFault::SyncFails && ::fsync(fd) == 0;
     const bool closed = ::close(fd) == 0;

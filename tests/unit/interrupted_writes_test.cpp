@@ -187,6 +187,10 @@ TEST_F(InterruptedWrites, FailedWritesKeepTheOldFileAndReadsTellMissingFromUnrea
         EXPECT_EQ(Read(path), "old");
         EXPECT_TRUE(Temporaries().empty());
     }
+    // A replaced file keeps its mode.
+    fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
+    ASSERT_TRUE(WriteFileAtomic(path, "old"));
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     fs::create_directory(AppPath + "/Folder.Ini");
     EXPECT_FALSE(WriteFileAtomic(AppPath + "/Folder.Ini", "new"));
     EXPECT_TRUE(fs::is_directory(AppPath + "/Folder.Ini"));
@@ -197,10 +201,12 @@ TEST_F(InterruptedWrites, FailedWritesKeepTheOldFileAndReadsTellMissingFromUnrea
     };
     SetFileFault(FileFault::Unreadable, AppPath + "/Locked");
     std::ofstream(AppPath + "/Locked.Txt") << "x";
+    ASSERT_EQ(mkfifo((AppPath + "/Pipe.Ini").c_str(), 0600), 0);  // no writer: opening it must not wait
     for (const Case& c : {Case{path, ReadOutcome::Read}, Case{AppPath + "/None.Ini", ReadOutcome::Missing},
                           Case{path + "/below", ReadOutcome::Missing}, Case{AppPath + "/Folder.Ini", ReadOutcome::Unreadable},
                           Case{AppPath + "/Locked.Txt", ReadOutcome::Unreadable},
-                          Case{AppPath + "/Locked.Gone", ReadOutcome::Missing}}) {
+                          Case{AppPath + "/Locked.Gone", ReadOutcome::Missing},
+                          Case{AppPath + "/Pipe.Ini", ReadOutcome::Unreadable}}) {
         std::string text = "kept";
         ReadOutcome outcome = ReadOutcome::Read;
         EXPECT_EQ(ReadWholeFile(c.path, text, &outcome), c.outcome == ReadOutcome::Read) << c.path;
