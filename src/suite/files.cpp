@@ -16,6 +16,10 @@ namespace ch {
 
 namespace {
 
+// Far beyond any settings file, table or saved game: a file this large is
+// damaged past reading, and is left as it is rather than read into memory.
+constexpr off_t kLargestFile = 64 << 20;
+
 std::vector<std::pair<std::string, FileFault>>& Faults() {
     static std::vector<std::pair<std::string, FileFault>> faults;
     return faults;
@@ -98,7 +102,8 @@ bool ReadWholeFile(const std::string& path, std::string& out, ReadOutcome* outco
     }
     struct stat st {};
     result = ReadOutcome::Unreadable;
-    if (FaultOf(path) == FileFault::Unreadable || ::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+    if (FaultOf(path) == FileFault::Unreadable || ::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode) ||
+        st.st_size > kLargestFile) {
         ::close(fd);
         return false;
     }

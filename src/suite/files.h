@@ -11,7 +11,8 @@ namespace ch {
 
 // How a read went. A file that is not there is made anew by its reader (a
 // settings file, a table); one that is there but can't be read (no
-// permission, a folder in its place, an I/O error) is left as it is.
+// permission, a folder or a pipe in its place, an I/O error, a size beyond
+// 64 MB) is left as it is.
 enum class ReadOutcome { Read, Missing, Unreadable };
 
 // The whole file into `out`; true when it was read. `outcome`, when given,

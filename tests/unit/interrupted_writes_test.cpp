@@ -202,11 +202,14 @@ TEST_F(InterruptedWrites, FailedWritesKeepTheOldFileAndReadsTellMissingFromUnrea
     SetFileFault(FileFault::Unreadable, AppPath + "/Locked");
     std::ofstream(AppPath + "/Locked.Txt") << "x";
     ASSERT_EQ(mkfifo((AppPath + "/Pipe.Ini").c_str(), 0600), 0);  // no writer: opening it must not wait
+    std::ofstream(AppPath + "/Huge.Txt");
+    fs::resize_file(AppPath + "/Huge.Txt", 1ull << 32);  // sparse: 4 GB on no disk at all
     for (const Case& c : {Case{path, ReadOutcome::Read}, Case{AppPath + "/None.Ini", ReadOutcome::Missing},
                           Case{path + "/below", ReadOutcome::Missing}, Case{AppPath + "/Folder.Ini", ReadOutcome::Unreadable},
                           Case{AppPath + "/Locked.Txt", ReadOutcome::Unreadable},
                           Case{AppPath + "/Locked.Gone", ReadOutcome::Missing},
-                          Case{AppPath + "/Pipe.Ini", ReadOutcome::Unreadable}}) {
+                          Case{AppPath + "/Pipe.Ini", ReadOutcome::Unreadable},
+                          Case{AppPath + "/Huge.Txt", ReadOutcome::Unreadable}}) {
         std::string text = "kept";
         ReadOutcome outcome = ReadOutcome::Read;
         EXPECT_EQ(ReadWholeFile(c.path, text, &outcome), c.outcome == ReadOutcome::Read) << c.path;
