@@ -484,9 +484,10 @@ TEST_P(DamagedFiles, UnreadableTablesAndAReadOnlyHomeAreToldAtTheEnd) {
     Fresh(settings, table);
     const fs::path file = home / g.table;
     const std::string mine = "Mine, 123456\r\n\r\n";
-    enum Case { Unreadable, Folder, ReadOnlyHome };
+    // A read-only home holding no files, and one holding the game's files.
+    enum Case { Unreadable, Folder, EmptyReadOnlyHome, ReadOnlyHome };
     Session s(home);
-    for (const Case c : {Unreadable, Folder, ReadOnlyHome}) {
+    for (const Case c : {Unreadable, Folder, EmptyReadOnlyHome, ReadOnlyHome}) {
         s.then([&, c, this] {
             fs::remove_all(file);
             if (c == Unreadable) {
@@ -494,15 +495,20 @@ TEST_P(DamagedFiles, UnreadableTablesAndAReadOnlyHomeAreToldAtTheEnd) {
                 SetFileFault(FileFault::Unreadable, file.string());
             } else if (c == Folder) {
                 fs::create_directories(file / "inside");
-            } else {
+            } else if (c == EmptyReadOnlyHome) {
                 fs::remove(home / g.settings);
+                SetFileFault(FileFault::ReadOnly, home.string());
+            } else {
+                WriteText(home / g.settings, settings);
+                WriteText(file, mine);
                 SetFileFault(FileFault::ReadOnly, home.string());
             }
         });
         s.open(g);
-        s.then([&] {
+        s.then([&, c] {
             EXPECT_TRUE(s.shown(g.form));
-            EXPECT_EQ(s.caption(g.form, "lblHighScore"), "");
+            const std::string prefix = std::string(g.topScore).substr(0, std::string(g.topScore).find(':') + 2);
+            EXPECT_EQ(s.caption(g.form, "lblHighScore"), c == ReadOnlyHome ? prefix + "123,456" : "");
             EXPECT_TRUE(s.boxes().empty());
         });
         s.play(g);
@@ -515,8 +521,9 @@ TEST_P(DamagedFiles, UnreadableTablesAndAReadOnlyHomeAreToldAtTheEnd) {
             EXPECT_EQ(s.boxes().size(), 1u);  // the close question, nothing more
             EXPECT_TRUE(s.shown("frmSelect"));
             ClearFileFaults();
-            if (c == Unreadable) {
+            if (c == Unreadable || c == ReadOnlyHome) {
                 EXPECT_EQ(ReadText(file), mine);
+                EXPECT_TRUE(c != ReadOnlyHome || ReadText(home / g.settings) == settings);
             } else if (c == Folder) {
                 EXPECT_TRUE(fs::is_directory(file / "inside"));
             } else {
