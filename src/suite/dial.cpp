@@ -70,7 +70,9 @@ void InitTimeDial(Form& window) {
 }
 
 int DialAngle(int seconds) {
-    if (TimeLimit == 0) return 0;
+    // A limit of 0 or less (a saved game may bring one) never runs out: the
+    // dial stays empty rather than overflow as the seconds pass.
+    if (TimeLimit <= 0) return 0;
     return CInt(360.0 / TimeLimit * seconds);
 }
 

@@ -33,7 +33,7 @@ void InitTimeDial(Form& window);
 void DrawTimeDial(int angle, Form& window);
 
 // The angle of a number of seconds of the round: 360 / TimeLimit * seconds,
-// rounded half to even. 0 when no time limit is set.
+// rounded half to even. 0 for a limit of 0 or less, which never runs out.
 int DialAngle(int seconds);
 
 // What varies between the games in the speed bonus count.

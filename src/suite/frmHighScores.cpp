@@ -68,7 +68,7 @@ void frmHighScores::ReadTableOfTitle() {
 void frmHighScores::ReadHighScoreTable(const std::string& tableName) {
     std::string text;
     if (!ReadWholeFile(HighScoreFileName(tableName), text)) return;
-    const std::vector<ScoreEntry> entries = ParseHighScoreText(text);
+    const std::vector<ScoreEntry> entries = ParseHighScoreText(text, 10);
     for (size_t i = 0; i < entries.size() && i < 10; ++i) {
         const int k = static_cast<int>(i) * 2;
         c("ScoreList", k).setCaption(entries[i].name);

@@ -53,10 +53,10 @@ std::string HighScoreFileName(const std::string& tableName) {
     return AppFile(name + ".Txt");
 }
 
-std::vector<ScoreEntry> ParseHighScoreText(const std::string& text) {
+std::vector<ScoreEntry> ParseHighScoreText(const std::string& text, size_t most) {
     std::vector<ScoreEntry> entries;
     size_t start = 0;
-    while (start < text.size()) {
+    while (start < text.size() && entries.size() < most) {
         size_t end = text.find('\n', start);
         if (end == std::string::npos) end = text.size();
         std::string line = text.substr(start, end - start);
@@ -91,23 +91,34 @@ bool CreateHighScoreFile(const std::string& tableName, Form&, const std::string&
 }
 
 bool ShowHighScore(const std::string& tableName, Form& window, const std::string& defaultScore) {
+    Control* label = window.find("lblHighScore");
+    // A table that can't be shown leaves no score of another table standing.
+    auto fail = [label] {
+        if (label) label->setCaption("");
+        return false;
+    };
     std::string text;
-    if (!ReadWholeFile(HighScoreFileName(tableName), text)) {
-        if (!CreateHighScoreFile(tableName, window, defaultScore)) return false;
-        if (!ReadWholeFile(HighScoreFileName(tableName), text)) return false;
+    ReadOutcome outcome = ReadOutcome::Read;
+    if (!ReadWholeFile(HighScoreFileName(tableName), text, &outcome)) {
+        // Only a missing table is made anew; one that is there but can't be
+        // read keeps its scores for the day it can.
+        if (outcome != ReadOutcome::Missing) return fail();
+        if (!CreateHighScoreFile(tableName, window, defaultScore)) return fail();
+        if (!ReadWholeFile(HighScoreFileName(tableName), text)) return fail();
     }
-    const std::vector<ScoreEntry> entries = ParseHighScoreText(text);
+    const std::vector<ScoreEntry> entries = ParseHighScoreText(text, 1);
     long long score = 0;
-    if (!entries.empty() && !ScoreValue(entries.front().score, score)) return false;
+    if (!entries.empty() && !ScoreValue(entries.front().score, score)) return fail();
     const std::string prefix = window.name() == "frmSpirehold" ? "Current High Score: " : "High Score: ";
-    if (Control* label = window.find("lblHighScore")) label->setCaption(prefix + FormatScore(score));
+    if (label) label->setCaption(prefix + FormatScore(score));
     return true;
 }
 
 bool UpdateHighScoreTable(const std::string& tableName, Form&) {
     std::string text;
     if (!ReadWholeFile(HighScoreFileName(tableName), text)) return false;
-    const std::vector<ScoreEntry> entries = ParseHighScoreText(text);
+    // Ten lines are written at most, one or two for each entry read.
+    const std::vector<ScoreEntry> entries = ParseHighScoreText(text, 10);
 
     std::string table;
     int count = 0;

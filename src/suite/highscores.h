@@ -14,6 +14,7 @@
 // HighScoreTableFor.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -42,8 +43,8 @@ struct ScoreEntry {
 };
 // The entries of a table's text, one a line, split at the first comma and
 // trimmed. Blank lines carry no entry; a line without a comma is a name with
-// an empty score. Never fails.
-std::vector<ScoreEntry> ParseHighScoreText(const std::string& text);
+// an empty score. Reading stops after `most` entries. Never fails.
+std::vector<ScoreEntry> ParseHighScoreText(const std::string& text, size_t most = SIZE_MAX);
 // A table's score text as a number; false when it lies outside the 32-bit
 // range of a score (a damaged table).
 bool ScoreValue(const std::string& text, long long& value);
@@ -55,8 +56,10 @@ std::string DefaultHighScoreText(const std::string& defaultScore);
 bool CreateHighScoreFile(const std::string& tableName, Form& window, const std::string& defaultScore);
 
 // lblHighScore = "High Score: " + the first score ("Current High Score: " in
-// frmSpirehold), formatted "###,###,###,##0"; a missing table is created first.
-// False when the table can neither be read nor made.
+// frmSpirehold), formatted "###,###,###,##0"; a missing table is created first,
+// one that is there but can't be read is left alone. False, with the label
+// emptied, when the table can neither be read nor made or its first score is
+// out of range.
 bool ShowHighScore(const std::string& tableName, Form& window, const std::string& defaultScore);
 
 // Offers CurrentScore to the table. At the first entry whose score is lower

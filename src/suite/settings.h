@@ -50,12 +50,14 @@ std::string SettingsText(const SettingsLayout& layout);
 void ApplySettingsText(const std::string& text, const SettingsLayout& layout);
 
 // Replaces the file in AppPath with the current values. False when it can't
-// be written.
+// be written, or when the last ReadSettingsINI found it but could not read it.
 bool WriteSettingsINI(const std::string& fileName, const SettingsLayout& layout);
 
-// Reads the file and applies it. A file that can't be read is first written
-// with the current values (the defaults, at load) and read again; when even
-// that fails nothing is applied. There is no message in any case.
+// Reads the file and applies it. A missing file is first written with the
+// current values (the defaults, at load) and read again; when even that fails
+// nothing is applied. A file that is there but can't be read (no permission,
+// a folder in its place) applies nothing and is not written over, neither now
+// nor on close. There is no message in any case.
 void ReadSettingsINI(const std::string& fileName, const SettingsLayout& layout);
 
 }  // namespace ch

@@ -57,6 +57,8 @@ TEST_F(DialWindow, AngleRoundsHalfToEven) {
     EXPECT_EQ(DialAngle(80), 360);
     TimeLimit = 0;
     EXPECT_EQ(DialAngle(5), 0);
+    TimeLimit = -1;  // 360 / -1 * 92 would overflow
+    EXPECT_EQ(DialAngle(92), 0);
 }
 
 TEST_F(DialWindow, AwardBonusCountsInTwentiethsAndKeepsTheOvershoot) {

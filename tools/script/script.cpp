@@ -546,6 +546,24 @@ std::optional<HeadlessPlatform::Step> ScriptRunner::execute(const std::vector<st
         expectEqual(t[1], result.text, t[2]);
         return std::nullopt;
     }
+    if (cmd == "fault") {
+        // fault none|unreadable|read-only|disk-full|sync-fails [FILE]: what the
+        // disk does from now on to FILE (a name in the home folder, or an
+        // absolute path), or to every file without one; "none" ends it.
+        if (n != 2 && n != 3) error("fault takes a kind and an optional file");
+        static const std::map<std::string, FileFault> kFaults = {{"none", FileFault::None},
+                                                                 {"unreadable", FileFault::Unreadable},
+                                                                 {"read-only", FileFault::ReadOnly},
+                                                                 {"disk-full", FileFault::DiskFull},
+                                                                 {"sync-fails", FileFault::SyncFails}};
+        auto it = kFaults.find(t[1]);
+        if (it == kFaults.end()) error("unknown fault " + t[1]);
+        std::string under;
+        if (n == 3) under = t[2][0] == '/' ? t[2] : AppPath + "/" + t[2];
+        if (it->second == FileFault::None && n == 2) ClearFileFaults();
+        else SetFileFault(it->second, under);
+        return std::nullopt;
+    }
     if (cmd == "quit") {
         needs(1);
         Step step;

@@ -1,0 +1,219 @@
+// Writers killed at random moments: a child process writes a settings file, a
+// high score table or a saved game over and over, alternating two contents,
+// and is killed with SIGKILL. The file is then the one content or the other,
+// whole; what a killed writer leaves beside it is cleared by the next write.
+// And writes that fail on a full disk, a read-only folder or a failed sync.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <random>
+#include <string>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "games/sumfall/modSumfall.h"
+#include "suite/common.h"
+#include "suite/files.h"
+#include "suite/highscores.h"
+#include "suite/settings.h"
+#include "window/form.h"
+#include "window/headless.h"
+#include "window/runtime.h"
+
+using namespace ch;
+namespace fs = std::filesystem;
+
+namespace {
+
+class InterruptedWrites : public ::testing::Test {
+protected:
+    void SetUp() override {
+        // In memory where there is such a folder, so that a sync costs
+        // nothing and the kills are many and quick; a kill is a kill there too.
+        std::error_code ec;
+        const fs::path base = fs::is_directory("/dev/shm", ec) ? fs::path("/dev/shm") : fs::temp_directory_path();
+        std::string pattern = (base / "cardhaven-kill-XXXXXX").string();
+        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+        AppPath = pattern;
+        AppTitle = "Spirehold!";
+        TimeLimit = 45;
+    }
+    void TearDown() override {
+        ClearFileFaults();
+        std::error_code ec;
+        fs::remove_all(AppPath, ec);
+    }
+
+    static std::string Read(const std::string& path) {
+        std::string text;
+        return ReadWholeFile(path, text) ? text : "<missing>";
+    }
+    std::vector<std::string> Temporaries() const {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(AppPath))
+            if (entry.path().filename().string().find(".tmp") != std::string::npos)
+                names.push_back(entry.path().filename().string());
+        return names;
+    }
+
+    // `write(0)` and `write(1)` put the two contents in `path`. A child
+    // alternates them until it is killed, `kills` times at seeded moments;
+    // each time the file must be one of them, whole.
+    void KillWriters(const std::string& path, const std::string (&contents)[2],
+                     const std::function<bool(int)>& write, int kills, unsigned seed) {
+        ASSERT_TRUE(write(0));
+        // The moment of each kill is drawn from a range that follows the
+        // child's pace: widened after a kill that came before its first write
+        // was done, narrowed after one that came later, so that both kinds
+        // of kill are many, whatever this machine's speed.
+        std::mt19937 random(seed);
+        double range = 2000;  // microseconds
+        int torn = 0, afterAWrite = 0, leftBehind = 0;
+        for (int k = 0; k < kills; ++k) {
+            int ready[2];
+            ASSERT_EQ(pipe(ready), 0);
+            const pid_t child = fork();
+            ASSERT_GE(child, 0);
+            if (child == 0) {
+                ::close(ready[0]);
+                ::close(ready[1]);  // the parent's read returns: writing starts
+                for (int i = 1;; ++i) write(i % 2);
+            }
+            ::close(ready[1]);
+            char byte;
+            ASSERT_EQ(::read(ready[0], &byte, 1), 0);
+            ::close(ready[0]);
+            struct stat before {};
+            ::stat(path.c_str(), &before);
+            usleep(static_cast<useconds_t>(std::uniform_real_distribution<double>(0, range)(random)));
+            ::kill(child, SIGKILL);
+            int status = 0;
+            ASSERT_EQ(waitpid(child, &status, 0), child);
+            ASSERT_TRUE(WIFSIGNALED(status));
+            const std::string now = Read(path);
+            if (now != contents[0] && now != contents[1]) ++torn;
+            struct stat after {};
+            ::stat(path.c_str(), &after);
+            const bool written = after.st_ino != before.st_ino;  // each write renames a new file in
+            afterAWrite += written;
+            // A killed writer's temporary file is cleared by the next writer:
+            // they never pile up.
+            const size_t left = Temporaries().size();
+            EXPECT_LE(left, 1u);
+            leftBehind += left > 0;
+            range = std::min(range * (written ? 0.9 : 1.1), 200000.0);
+        }
+        EXPECT_EQ(torn, 0) << "kills that left the file neither old nor new";
+        // Many kills came after a child's write was done (the file had
+        // changed), and some in the middle of one (a temporary file was left).
+        EXPECT_GT(afterAWrite, kills / 8);
+        EXPECT_GT(leftBehind, 0);
+        // The next write clears every temporary file a killed writer left.
+        ASSERT_TRUE(write(1));
+        EXPECT_EQ(Read(path), contents[1]);
+        EXPECT_TRUE(Temporaries().empty()) << ::testing::PrintToString(Temporaries());
+    }
+
+    HeadlessPlatform platform;
+    Runtime runtime{platform};
+};
+
+}  // namespace
+
+TEST_F(InterruptedWrites, SettingsFileIsOldOrNew) {
+    const std::string values[2] = {std::string(200000, 'a'), std::string(150000, 'b')};
+    int which = 0;
+    const SettingsLayout layout = {{"[Big]", nullptr, [&] { return values[which]; }}};
+    const std::string contents[2] = {"[Big]\r\n" + values[0] + "\r\n\r\n", "[Big]\r\n" + values[1] + "\r\n\r\n"};
+    KillWriters(AppFile("\\Big.Ini"), contents,
+                [&](int i) {
+                    which = i;
+                    return WriteSettingsINI("\\Big.Ini", layout);
+                },
+                120, 5);
+}
+
+TEST_F(InterruptedWrites, HighScoreTableIsOldOrNew) {
+    Form window(runtime, "frmSpirehold");
+    const std::string scores[2] = {std::string(20000, '1'), std::string(9000, '2')};
+    const std::string contents[2] = {DefaultHighScoreText(scores[0]) + "\r\n", DefaultHighScoreText(scores[1]) + "\r\n"};
+    KillWriters(HighScoreFileName("SpireholdHiScores"), contents,
+                [&](int i) { return CreateHighScoreFile("SpireholdHiScores", window, scores[i]); }, 120, 6);
+}
+
+TEST_F(InterruptedWrites, SavedGameIsOldOrNew) {
+    sumfall::SavedGame games[2];
+    for (int i = 0; i < 2; ++i) {
+        games[i].userName = std::string(100000 + 50000 * i, i ? 'B' : 'A');
+        games[i].round1.assign(53, i ? "7H" : "10S");
+    }
+    const std::string path = AppPath + "/game.sfl";
+    const std::string contents[2] = {sumfall::SavedGameText(games[0]), sumfall::SavedGameText(games[1])};
+    KillWriters(path, contents, [&](int i) { return WriteFileAtomic(path, sumfall::SavedGameText(games[i])); }, 120,
+                7);
+}
+
+// Only the temporary files of writers that are gone are cleared: another
+// program's, still writing, is left alone.
+TEST_F(InterruptedWrites, TemporariesOfLiveWritersStay) {
+    const pid_t gone = fork();
+    ASSERT_GE(gone, 0);
+    if (gone == 0) _exit(0);
+    ASSERT_EQ(waitpid(gone, nullptr, 0), gone);
+    const std::string path = AppPath + "/HiScores60.Txt";
+    for (const pid_t pid : {gone, getppid()}) std::ofstream(path + ".tmp" + std::to_string(pid)) << "half";
+    std::ofstream(AppPath + "/Other.Txt.tmp" + std::to_string(gone)) << "someone else's";
+    ASSERT_TRUE(WriteFileAtomic(path, "new"));
+    EXPECT_FALSE(fs::exists(path + ".tmp" + std::to_string(gone)));
+    EXPECT_TRUE(fs::exists(path + ".tmp" + std::to_string(getppid())));
+    EXPECT_TRUE(fs::exists(AppPath + "/Other.Txt.tmp" + std::to_string(gone)));
+}
+
+// A write that fails at any step keeps the old file and leaves nothing beside
+// it; a read tells a missing file from one that is there but can't be read.
+TEST_F(InterruptedWrites, FailedWritesKeepTheOldFileAndReadsTellMissingFromUnreadable) {
+    const std::string path = AppPath + "/Sumfall.Ini";
+    ASSERT_TRUE(WriteFileAtomic(path, "old"));
+    for (const FileFault fault : {FileFault::ReadOnly, FileFault::DiskFull, FileFault::SyncFails}) {
+        SetFileFault(fault, fault == FileFault::ReadOnly ? AppPath : path);
+        EXPECT_FALSE(WriteFileAtomic(path, std::string(100000, 'n')));
+        ClearFileFaults();
+        EXPECT_EQ(Read(path), "old");
+        EXPECT_TRUE(Temporaries().empty());
+    }
+    // A replaced file keeps its mode.
+    fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
+    ASSERT_TRUE(WriteFileAtomic(path, "old"));
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_directory(AppPath + "/Folder.Ini");
+    EXPECT_FALSE(WriteFileAtomic(AppPath + "/Folder.Ini", "new"));
+    EXPECT_TRUE(fs::is_directory(AppPath + "/Folder.Ini"));
+
+    struct Case {
+        std::string path;
+        ReadOutcome outcome;
+    };
+    SetFileFault(FileFault::Unreadable, AppPath + "/Locked");
+    std::ofstream(AppPath + "/Locked.Txt") << "x";
+    ASSERT_EQ(mkfifo((AppPath + "/Pipe.Ini").c_str(), 0600), 0);  // no writer: opening it must not wait
+    std::ofstream(AppPath + "/Huge.Txt");
+    fs::resize_file(AppPath + "/Huge.Txt", 1ull << 32);  // sparse: 4 GB on no disk at all
+    for (const Case& c : {Case{path, ReadOutcome::Read}, Case{AppPath + "/None.Ini", ReadOutcome::Missing},
+                          Case{path + "/below", ReadOutcome::Missing}, Case{AppPath + "/Folder.Ini", ReadOutcome::Unreadable},
+                          Case{AppPath + "/Locked.Txt", ReadOutcome::Unreadable},
+                          Case{AppPath + "/Locked.Gone", ReadOutcome::Missing},
+                          Case{AppPath + "/Pipe.Ini", ReadOutcome::Unreadable},
+                          Case{AppPath + "/Huge.Txt", ReadOutcome::Unreadable}}) {
+        std::string text = "kept";
+        ReadOutcome outcome = ReadOutcome::Read;
+        EXPECT_EQ(ReadWholeFile(c.path, text, &outcome), c.outcome == ReadOutcome::Read) << c.path;
+        EXPECT_EQ(outcome, c.outcome) << c.path;
+        EXPECT_EQ(text, c.outcome == ReadOutcome::Read ? "old" : "kept") << c.path;
+    }
+}
