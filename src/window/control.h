@@ -131,6 +131,9 @@ public:
     void setDefault(bool v) { default_ = v; }
     bool isCancel() const { return cancel_; }
     void setCancel(bool v) { cancel_ = v; }
+    // A text box holds one line unless it is multi-line.
+    bool multiLine() const { return multiLine_; }
+    void setMultiLine(bool v) { multiLine_ = v; }
 
     // Status bar panels 1 to 3.
     const std::string& panel(int number) const { return panels_.at(static_cast<size_t>(number - 1)); }
@@ -199,6 +202,7 @@ private:
     int z_ = 0;
     bool default_ = false;
     bool cancel_ = false;
+    bool multiLine_ = false;
     std::array<std::string, 3> panels_;
     std::vector<DrawItem> drawing_;
     std::vector<std::string> items_;

@@ -329,8 +329,8 @@ void Runtime::dispatchToControl(Form& form, Control& control, const InputEvent& 
         case InputKind::MouseMove: form.raise(&control, Ev::MouseMove); break;
         case InputKind::Key: pressKey(form, control, event.key); break;
         case InputKind::SetText:
-            // A text box holds one line: what is typed or pasted keeps its first.
-            control.setText(event.text.substr(0, event.text.find_first_of("\r\n")));
+            // A one-line text box keeps the first line of what is typed or pasted.
+            control.setText(control.multiLine() ? event.text : event.text.substr(0, event.text.find_first_of("\r\n")));
             break;
         case InputKind::Focus: form.setFocus(control); break;
         case InputKind::Check: control.setValue(event.value ? 1 : 0); break;

@@ -29,6 +29,7 @@ class frmTestLauncher : public Form {
 public:
     explicit frmTestLauncher(Runtime& runtime) : Form(runtime, "frmTestLauncher") {
         add(kLayout);
+        c("txtContent").setMultiLine(true);
         on("cmdOpen", Ev::Click, [this](EventArgs&) { cmdOpen_Click(); });
         on("cmdWrite", Ev::Click, [this](EventArgs&) { WriteFileAtomic(AppFile(c("txtFile").text()), c("txtContent").text()); });
         on("cmdRead", Ev::Click, [this](EventArgs&) { cmdRead_Click(); });
