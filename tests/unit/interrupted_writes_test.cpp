@@ -75,7 +75,10 @@ protected:
         std::mt19937 random(seed);
         double range = 2000;  // microseconds
         int torn = 0, afterAWrite = 0, leftBehind = 0;
-        for (int k = 0; k < kills; ++k) {
+        // Under a loaded machine kills in the middle of a write may be rare: a
+        // few more rounds are made until one has come.
+        int k = 0;
+        for (; k < kills || (leftBehind == 0 && k < 5 * kills); ++k) {
             int ready[2];
             ASSERT_EQ(pipe(ready), 0);
             const pid_t child = fork();
@@ -112,7 +115,7 @@ protected:
         EXPECT_EQ(torn, 0) << "kills that left the file neither old nor new";
         // Many kills came after a child's write was done (the file had
         // changed), and some in the middle of one (a temporary file was left).
-        EXPECT_GT(afterAWrite, kills / 8);
+        EXPECT_GT(afterAWrite, k / 8);
         EXPECT_GT(leftBehind, 0);
         // The next write clears every temporary file a killed writer left.
         ASSERT_TRUE(write(1));
