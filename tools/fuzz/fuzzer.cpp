@@ -121,7 +121,12 @@ double Weight(const Control& c) {
 // ---- The fuzzer ----------------------------------------------------------------
 
 Fuzzer::Fuzzer(Runtime& runtime, WatchedPlatform& platform, const FuzzOptions& options)
-    : runtime_(runtime), platform_(platform), options_(options), random_(options.seed), home_(options.home) {}
+    : runtime_(runtime),
+      platform_(platform),
+      options_(options),
+      random_(options.seed),
+      home_(options.home),
+      steady_(options.seed % 3 == 2) {}
 
 int Fuzzer::uniform(int low, int high) { return std::uniform_int_distribution<int>(low, high)(random_); }
 bool Fuzzer::chance(double p) { return std::uniform_real_distribution<double>(0, 1)(random_) < p; }
@@ -140,7 +145,10 @@ std::string Fuzzer::check() {
     if (gameWasInProgress_ && !GameInProgress && runtime_.loaded(options_.game)) ++result_.gamesCompleted;
     gameWasInProgress_ = GameInProgress;
     // What was heard and shown is read off, so a long run keeps no record of it.
-    platform_.takeSounds();
+    for (const std::string& sound : platform_.takeSounds()) ++result_.sounds[sound];
+    if (Form* game = runtime_.loaded(options_.game))
+        if (const Control* message = game->find("lblMessage"); message && message->visible() && message->caption() != lastMessage_)
+            ++result_.messages[lastMessage_ = message->caption()];
     for (const MessageBox& box : platform_.takeMessageBoxes()) ++result_.messageBoxes[box.text.substr(0, 80)];
     std::string fault = home_.look(CurrentScore);
     if (fault.empty()) fault = ShownScoreFault(runtime_, options_.game);
@@ -181,6 +189,10 @@ std::string Fuzzer::nextLine() {
         // three, since one event may open several boxes.
         line = std::string("answer ") + (chance(0.5) ? "first" : "second");
         if (chance(0.2)) line += " after " + std::to_string(uniform(1, 3000));
+    } else if (!settingsWritten_ && !options_.settingsFile.empty()) {
+        settingsWritten_ = true;
+        line = "file " + options_.settingsFile + " " +
+               Quoted(options_.bonusSection + "\r\n" + std::to_string(uniform(1, 3000)) + "\r\n\r\n");
     } else if (tablesWritten_ < options_.tables.size()) {
         line = "file " + options_.tables[tablesWritten_++] + " " + Quoted(lowTable());
     } else if (result_.events == 0) {
@@ -305,7 +317,12 @@ Control* Fuzzer::pickControl(Form& form, bool (*fits)(const Control&)) {
         if (liveOnly && !runtime_.accepts(form, &c)) continue;
         candidates.push_back(&c);
         // Clear High Scores less often, so that the tables fill up.
-        weights.push_back(Weight(c) * (c.name().find("Clear") != std::string::npos ? 0.1 : 1.0));
+        double weight = Weight(c) * (c.name().find("Clear") != std::string::npos ? 0.1 : 1.0);
+        // A steady player mostly plays the cards a game deals, to its end.
+        if (steady_ && GameInProgress && (c.kind() == ControlKind::Menu || c.name() == "cmdPlay" ||
+                                          c.name() == "cmdExit" || c.name() == "cmdQuit"))
+            weight *= 0.02;
+        weights.push_back(weight);
     }
     if (candidates.empty()) return nullptr;
     std::discrete_distribution<size_t> pick(weights.begin(), weights.end());
@@ -350,7 +367,7 @@ std::string Fuzzer::event() {
     } else if (roll <= 96) {
         if (Control* c = on(AnyControl)) return "queue click " + ref(*c);
     } else if (roll <= 98) {
-        if (form->name() != "frmSelect") return "close " + form->name();
+        if (form->name() != "frmSelect" && !(steady_ && GameInProgress)) return "close " + form->name();
     } else if (roll <= 99) {
         return "resize " + form->name() + " " + std::to_string(uniform(0, 30000)) + " " + std::to_string(uniform(0, 20000));
     } else {

@@ -32,6 +32,9 @@ struct FuzzOptions {
     // The game's tables, one a time limit (and card goal): the run starts with
     // low scores in them, so that games played at random make the tables too.
     std::vector<std::string> tables;
+    // When set, the settings file holds only this section, a low score for a
+    // bonus round, so that random games reach the bonus round too.
+    std::string settingsFile, bonusSection;
     bool keepTrail = false;  // keep it after a clean run too, closed by expectations of the end state
 };
 
@@ -41,6 +44,8 @@ struct FuzzResult {
     int64_t virtualMs = 0;
     std::string fault;  // empty when every check held
     std::map<std::string, long long> messageBoxes;  // how often each text was shown
+    std::map<std::string, long long> sounds;        // how often each sound was played
+    std::map<std::string, long long> messages;      // the game's lblMessage captions seen
 };
 
 // The headless platform with a watchdog on virtual time: the loop must come
@@ -102,6 +107,11 @@ private:
     const Form* lastModal_ = nullptr;
     long modalEvents_ = 0;
     size_t tablesWritten_ = 0;
+    bool settingsWritten_ = false;
+    // Every third seed plays steadily: menus, Play and closing rarely while a
+    // game runs, so that rounds and bonus rounds are played out.
+    bool steady_ = false;
+    std::string lastMessage_;
     bool lastWasStep_ = false;
     bool gameWasInProgress_ = false;
     int trailFd_ = -1;

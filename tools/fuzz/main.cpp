@@ -28,15 +28,21 @@ struct Game {
     const char* button;
     const char* table;
     std::vector<int> limits;
+    const char* settings;      // the settings file
+    const char* bonusSection;  // its score for a bonus round ("" when it keeps none)
 };
 const Game kGames[] = {
-    {"sumfall", "frmSumfall", "cmdSumfall", "HiScores", {30, 60, 90, 120, 150, 180}},
-    {"fivestack", "frmFivestack", "cmdFivestack", "HiScores", {15, 30, 45, 60, 75}},
-    {"blackrush", "frmBlackrush", "cmdBlackrush", "BlackrushHiScores", {15, 30, 60, 90, 120}},
-    {"spirehold", "frmSpirehold", "cmdSpirehold", "SpireholdHiScores", {30, 45, 60, 90}},
-    {"duopick", "frmDuopick", "cmdDuopick", "DuopickHighScores", {30, 45, 60, 75, 90, 105, 120}},
-    {"handgrid", "frmHandgrid", "cmdHandgrid", "HandgridHighScores", {30, 45, 60, 75, 90, 105, 120}},
-    {"treyshift", "frmTreyshift", "cmdTreyshift", "TreyshiftHiScores", {60, 75, 90, 105, 120, 135, 150, 180}},
+    {"sumfall", "frmSumfall", "cmdSumfall", "HiScores", {30, 60, 90, 120, 150, 180}, "Sumfall.Ini", ""},
+    {"fivestack", "frmFivestack", "cmdFivestack", "HiScores", {15, 30, 45, 60, 75}, "Fivestack.Ini", "[BonusScore]"},
+    {"blackrush", "frmBlackrush", "cmdBlackrush", "BlackrushHiScores", {15, 30, 60, 90, 120}, "Blackrush.Ini",
+     "[Bonus Round Score]"},
+    {"spirehold", "frmSpirehold", "cmdSpirehold", "SpireholdHiScores", {30, 45, 60, 90}, "Spirehold.Ini", "[Bonus Score]"},
+    {"duopick", "frmDuopick", "cmdDuopick", "DuopickHighScores", {30, 45, 60, 75, 90, 105, 120}, "Duopick.Ini",
+     "[Bonus Score]"},
+    {"handgrid", "frmHandgrid", "cmdHandgrid", "HandgridHighScores", {30, 45, 60, 75, 90, 105, 120}, "Handgrid.Ini",
+     "[Bonus Score]"},
+    {"treyshift", "frmTreyshift", "cmdTreyshift", "TreyshiftHiScores", {60, 75, 90, 105, 120, 135, 150, 180},
+     "Treyshift.Ini", "[Bonus Score]"},
 };
 
 [[noreturn]] void Usage(const std::string& complaint) {
@@ -74,7 +80,7 @@ int main(int argc, char** argv) {
                          "(default cardhaven-fuzz-GAME-SEED.script) replays it: cardhaven-script --data DIR FILE.\n"
                          "--keep-trail keeps it after a clean run too, ending in expectations of the\n"
                          "state the run reached, so that a replay checks itself. --stats counts the\n"
-                         "message boxes shown, by text.\n";
+                         "message boxes shown, by text, the sounds played and the game's messages.\n";
             return 0;
         } else if (arg == "--game") gameName = value();
         else if (arg == "--seed") options.seed = std::strtoull(value().c_str(), nullptr, 10);
@@ -92,6 +98,11 @@ int main(int argc, char** argv) {
     if (!game) Usage("--game takes one of the seven games");
     options.game = game->form;
     options.selectorButton = game->button;
+    // Odd seeds start with a bonus round within reach of random play.
+    if (*game->bonusSection && options.seed % 2 == 1) {
+        options.settingsFile = game->settings;
+        options.bonusSection = game->bonusSection;
+    }
     for (int limit : game->limits) {
         const std::string stem = game->table + std::to_string(limit);
         if (gameName != "sumfall") options.tables.push_back(stem + ".Txt");
@@ -123,8 +134,11 @@ int main(int argc, char** argv) {
     }
     std::cout << gameName << " seed " << options.seed << ": " << result.events << " events, " << result.gamesCompleted
               << " games completed, " << result.virtualMs / 1000 << " s of virtual time, " << seconds << " s\n";
-    if (stats)
+    if (stats) {
         for (const auto& [text, count] : result.messageBoxes) std::cout << "  " << count << "  " << text << "\n";
+        for (const auto& [sound, count] : result.sounds) std::cout << "  " << count << "  " << sound << "\n";
+        for (const auto& [text, count] : result.messages) std::cout << "  " << count << "  lblMessage " << text << "\n";
+    }
     if (!result.fault.empty()) {
         std::cout << "FAULT " << result.fault << "\nreplay: cardhaven-script --data DATA " << options.trail << "\n";
         return 1;
