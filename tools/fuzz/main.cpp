@@ -6,15 +6,14 @@
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
-#include <filesystem>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 #include <unistd.h>
 
 #include "tools/fuzz/fuzzer.h"
-
-namespace fs = std::filesystem;
+#include "tools/script/script.h"
 
 namespace {
 
@@ -112,14 +111,14 @@ int main(int argc, char** argv) {
     if (options.trail.empty())
         options.trail = "cardhaven-fuzz-" + gameName + "-" + std::to_string(options.seed) + ".script";
 
-    std::string tempHome;
+    std::optional<ch::TemporaryHome> tempHome;
     if (options.home.empty()) {
-        std::string pattern = (fs::temp_directory_path() / "cardhaven-fuzz-XXXXXX").string();
-        if (!mkdtemp(pattern.data())) {
+        tempHome.emplace("cardhaven-fuzz");
+        if (tempHome->path().empty()) {
             std::cerr << "cardhaven-fuzz: cannot make a temporary folder\n";
             return 2;
         }
-        tempHome = options.home = pattern;
+        options.home = tempHome->path();
     }
 
     std::signal(SIGALRM, OnAlarm);
@@ -128,10 +127,7 @@ int main(int argc, char** argv) {
     const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     ::alarm(0);
 
-    if (!tempHome.empty()) {
-        std::error_code ec;
-        fs::remove_all(tempHome, ec);
-    }
+    tempHome.reset();
     std::cout << gameName << " seed " << options.seed << ": " << result.events << " events, " << result.gamesCompleted
               << " games completed, " << result.virtualMs / 1000 << " s of virtual time, " << seconds << " s\n";
     if (stats) {

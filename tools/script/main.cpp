@@ -2,9 +2,9 @@
 // Runs the suite on the headless platform, driven by a script. Exit status:
 // 0 when every expectation held, 1 after any FAIL, 2 after an ERROR.
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <optional>
 #include <string>
 
 #include "games/games.h"
@@ -15,8 +15,6 @@
 #ifdef CARDHAVEN_TEST_FORMS
 #include "tests/support/testforms.h"  // the test driver's own windows
 #endif
-
-namespace fs = std::filesystem;
 
 #ifndef CARDHAVEN_VERSION
 #define CARDHAVEN_VERSION "unknown"
@@ -85,14 +83,14 @@ int main(int argc, char** argv) {
     }
     std::istream& in = file.is_open() ? static_cast<std::istream&>(file) : std::cin;
 
-    std::string tempHome;
+    std::optional<ch::TemporaryHome> tempHome;
     if (options.appPath.empty()) {
-        std::string pattern = (fs::temp_directory_path() / "cardhaven-XXXXXX").string();
-        if (!mkdtemp(pattern.data())) {
+        tempHome.emplace("cardhaven");
+        if (tempHome->path().empty()) {
             std::cerr << "cardhaven-script: cannot make a temporary folder\n";
             return 2;
         }
-        tempHome = options.appPath = pattern;
+        options.appPath = tempHome->path();
     }
 
     int status = 0;
@@ -121,10 +119,6 @@ int main(int argc, char** argv) {
         }
         ch::randomness::SetFailureReporter(nullptr);
         if (status == 0 && runner.failures() > 0) status = 1;
-    }
-    if (!tempHome.empty()) {
-        std::error_code ec;
-        fs::remove_all(tempHome, ec);
     }
     return status;
 }

@@ -2,6 +2,8 @@
 
 #include <cctype>
 #include <cstdio>
+#include <cstdlib>
+#include <filesystem>
 #include <map>
 
 #include "suite/cards.h"
@@ -65,6 +67,16 @@ std::string OneLine(const std::string& text) {
 }
 
 }  // namespace
+
+TemporaryHome::TemporaryHome(const std::string& prefix) {
+    std::string pattern = (std::filesystem::temp_directory_path() / (prefix + "-XXXXXX")).string();
+    if (::mkdtemp(pattern.data())) path_ = pattern;
+}
+
+TemporaryHome::~TemporaryHome() {
+    std::error_code ec;
+    if (!path_.empty()) std::filesystem::remove_all(path_, ec);
+}
 
 ScriptRunner::ScriptRunner(Runtime& runtime, HeadlessPlatform& platform, std::istream& in, std::ostream& out)
     : runtime_(runtime), platform_(platform), in_(in), out_(out) {}

@@ -15,6 +15,20 @@ namespace ch {
 
 class Runtime;
 
+// The home folder of a run that names none: a fresh folder under the system's
+// temporary folder, removed with everything in it when the run ends.
+class TemporaryHome {
+public:
+    explicit TemporaryHome(const std::string& prefix);  // path() empty when it can't be made
+    ~TemporaryHome();
+    TemporaryHome(const TemporaryHome&) = delete;
+    TemporaryHome& operator=(const TemporaryHome&) = delete;
+    const std::string& path() const { return path_; }
+
+private:
+    std::string path_;
+};
+
 // Thrown after an ERROR line: the run stops with exit status 2.
 struct ScriptError {};
 
