@@ -82,7 +82,7 @@ int64_t QtPlatform::wallClock() {
 }
 
 WaitResult QtPlatform::wait(InputEvent& event, int64_t deadline, bool pollOnly) {
-    // The program ends when its last form has gone, as the original did.
+    // The program ends when its last form has gone: no window, nothing left to serve.
     if (loadedForms_.load() == 0) throw StopRun{};
     std::unique_lock<std::mutex> lock(mutex_);
     auto ready = [this] { return stop_ || !queue_.empty(); };

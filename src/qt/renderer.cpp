@@ -17,7 +17,8 @@ namespace ch {
 namespace {
 
 // Controls drawn on the form itself (labels, images, shapes, lines) lie below
-// the controls that are windows of their own, as on the original platform.
+// the controls that are windows of their own: they are painted on the form,
+// and the form is beneath its child windows.
 bool IsWindowed(ControlKind kind) {
     switch (kind) {
         case ControlKind::Label:

@@ -112,7 +112,7 @@ private:
     std::function<void(const std::string&)> tracer_;
 };
 
-// The calls game code makes, as the original platform named them.
+// The blocking calls game code makes, under the names the game steps use.
 inline void Sleep(int ms) { Runtime::current().sleep(ms); }
 inline void DoEvents() { Runtime::current().doEvents(); }
 inline MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, MsgIcon icon, const std::string& title) {

@@ -1,7 +1,7 @@
 // A double click: the whole gesture as a script gives it, or the second half
 // of one whose first click a real mouse already sent as a Click. Either way
-// the control sees what the original platform gave it: Click then DblClick,
-// and on a button two Clicks.
+// the control sees Click then DblClick, and a button, which has no double
+// click of its own, two Clicks.
 #include <gtest/gtest.h>
 
 #include <memory>
