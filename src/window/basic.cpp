@@ -80,10 +80,6 @@ std::string RTrim(const std::string& text) {
 
 std::string Trim(const std::string& text) { return LTrim(RTrim(text)); }
 
-bool ParseBoolText(const std::string& text) {
-    std::string t = Trim(text);
-    for (char& c : t) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return t == "true";
-}
+bool ParseBoolText(const std::string& text) { return text == "True"; }
 
 }  // namespace ch

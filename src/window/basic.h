@@ -49,7 +49,7 @@ std::string RTrim(const std::string& text);
 inline int16_t BoolValue(bool b) { return b ? -1 : 0; }
 // Booleans in files.
 inline const char* BoolText(bool b) { return b ? "True" : "False"; }
-// "True" (any case) is true; anything else reads as false.
+// Exactly "True" is true; anything else ("TRUE", "true", " True") reads as false.
 bool ParseBoolText(const std::string& text);
 
 }  // namespace ch

@@ -68,7 +68,9 @@ TEST(Booleans, StoredAsMinusOneAndShownAsWords) {
     EXPECT_EQ(BoolValue(false), 0);
     EXPECT_STREQ(BoolText(true), "True");
     EXPECT_TRUE(ParseBoolText("True"));
-    EXPECT_TRUE(ParseBoolText(" true "));
+    EXPECT_FALSE(ParseBoolText("TRUE"));
+    EXPECT_FALSE(ParseBoolText("true"));
+    EXPECT_FALSE(ParseBoolText(" True"));
     EXPECT_FALSE(ParseBoolText("False"));
     EXPECT_FALSE(ParseBoolText("yes"));
 }

@@ -61,6 +61,7 @@ private:
     void CloseCurrentRound();
     void ShowColumnTotal(int index);
     void AddUpCardTotal();
+    bool CardOnShow() const;
     void ShowNextCard();
     void ShowCards(bool show);
     void ShowGraphics(bool show);

@@ -1,6 +1,7 @@
 // The Fivestack board: Hit and Pass, the aces and the bust test, the closing
 // of columns, the Card Total and its row in the Card Total Value table, and
 // what the board shows.
+#include <cstdint>
 #include <string>
 
 #include "games/fivestack/frmFivestack.h"
@@ -27,6 +28,12 @@ int PictureOf(const std::string& code) { return ImageList2().indexOf(CardKey(cod
 
 void frmFivestack::cmdHit_Click(int index) {
     if (TakingScore) return;
+    // Passes beyond the deck ("[Cards To Pass]" above 10 or negative) can
+    // leave no card on show: the Hit is refused.
+    if (!CardOnShow()) {
+        Wave("\\Chord.wav");
+        return;
+    }
     c("NextCardPicture").setVisible(true);
     Wave("\\Click.wav");
     CalculateColumnValue(index);
@@ -52,9 +59,15 @@ void frmFivestack::cmdHit_Click(int index) {
     ShowNextCard();
 }
 
-// The card on show is thrown away.
+// The card on show is thrown away. With no card left on show the pass is
+// refused. A negative allowance never reaches 0, so the passes are unlimited;
+// it stops at the lowest 16-bit number rather than wrapping round.
 void frmFivestack::cmdPass_Click() {
-    PassesLeft -= 1;
+    if (!CardOnShow()) {
+        Wave("\\Chord.wav");
+        return;
+    }
+    if (PassesLeft > INT16_MIN) PassesLeft -= 1;
     DeckPosition += 1;
     ShowNextCard();
     Wave("\\Click.wav");
@@ -124,8 +137,12 @@ void frmFivestack::AddUpCardTotal() {
         total.setCaption(NumText(static_cast<long long>(Val(total.caption()) + Val(c("ColumnTotal", i).caption()))));
 }
 
+bool frmFivestack::CardOnShow() const { return DeckPosition >= 1 && DeckPosition <= DeckUpperBound(); }
+
+// Past the deck's last card the next card is the empty place.
 void frmFivestack::ShowNextCard() {
-    c("NextCardPicture").setPicture(PictureOf(Deck[static_cast<size_t>(DeckPosition)]));
+    c("NextCardPicture").setPicture(CardOnShow() ? PictureOf(Deck[static_cast<size_t>(DeckPosition)])
+                                                 : ImageList2().indexOf("EMPTY"));
 }
 
 // ---- The Card Total ------------------------------------------------------------------
@@ -254,8 +271,15 @@ void frmFivestack::ColumnSoft_Change(int index) {
     soft.setLeft(total.left() + (total.width() - soft.width()) / 2);
 }
 
+// After a change of the window's size each column's total stands centred
+// over the column's first card, and its "Soft" under the total.
 void frmFivestack::ResizeColumnHeaders() {
-    for (int i = 0; i < kColumns; ++i) ColumnSoft_Change(i);
+    for (int i = 0; i < kColumns; ++i) {
+        Control& total = c("ColumnTotal", i);
+        const Control& first = c(kColumnImages[i], 0);
+        total.setLeft(first.left() + (first.width() - total.width()) / 2);
+        ColumnSoft_Change(i);
+    }
 }
 
 }  // namespace ch

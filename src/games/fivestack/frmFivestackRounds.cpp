@@ -63,8 +63,11 @@ void frmFivestack::Play() {
     c("PlayCardPicture").setPicture(ImageList2().indexOf("BACK"));
 
     DealFirstCard();
-    ShowGraphics(true);
+    // The column lines, not the totals: EnableControls has shown those of
+    // columns 2 to 5, and the first keeps what the last game left.
+    for (const char* line : kColumnLines) c(line).setVisible(true);
     c("cmdPass").setEnabled(PassesLeft != 0);
+    c("cmdPass").setVisible(true);
     c("cmdPause").setEnabled(true);
     c("mnuPause").setEnabled(true);
     ShowHitButtons(true);
@@ -96,10 +99,10 @@ void frmFivestack::EndGame(bool fromMenu) {
     if (!loaded()) return;
     QuitRequested = true;
     GameInProgress = false;
+    // The pause handler shows the board again; Reset then takes the cards
+    // and the buttons away, and the rest of the board stays beside the
+    // splash panel until the next Play.
     cmdPause_Click();
-    // The board goes as at the end of any round, so that the splash panel
-    // comes back on an empty window.
-    ShowCards(false);
     Reset();
     int16_t over = 5;
     EndRound(over);
@@ -213,7 +216,9 @@ void frmFivestack::TakeScore() {
         c("Timer1").setEnabled(false);
         if (PlayMusic) StopMusic();
         ShowCards(false);
-        const int32_t roundScore = CardTotalValue * TimeBonus;
+        // A 32-bit product: the shared TimeBonus that the first second of a
+        // round uses may come from another game's settings.
+        const int32_t roundScore = CLng(static_cast<double>(CardTotalValue) * TimeBonus);
 
         Control& roundTotal = c("ScoringLabelRoundTotal");
         Control& message = c("ScoringLabel");
@@ -261,7 +266,9 @@ void frmFivestack::CountRoundScore(int32_t roundScore) {
     const long long step = 2LL * TimeBonus;
     long long remaining = roundScore;
     int ticks = 0;
-    for (long long i = 1; step > 0 && i <= roundScore; i += step) {
+    // A counted loop from 1 to the round's score: a negative bonus (a
+    // minimum below 0 in the settings file) counts downwards.
+    for (long long i = 1; step > 0 ? i <= roundScore : step < 0 && i >= roundScore; i += step) {
         ticks += 1;
         message.setCaption(FormatScore(remaining));
         runtime().refresh();

@@ -73,6 +73,8 @@ private:
     void EndGameAsked();
     void cmdPause_Click();
     void Timer1_Timer();
+    void GameOver();
+    void EndOnError(const RuntimeError& error);
     void ResetDial();
     void ShowTimerFrame(bool visible);
 

@@ -43,10 +43,15 @@ void frmHandgrid::PlayCards_Click(int Index) {
         cell = inStack ? HoleCards[static_cast<size_t>(HoleCount)] : std::string();
         HoleCount -= 1;
 
-        EvaluateLines(true);
-        TransposeCards(PlayedCards);
-        EvaluateLines(false);
-        TransposeCards(PlayedCards);
+        try {
+            EvaluateLines(true);
+            TransposeCards(PlayedCards);
+            EvaluateLines(false);
+            TransposeCards(PlayedCards);
+        } catch (const RuntimeError& error) {
+            EndOnError(error);
+            return;
+        }
 
         if (HoleCount > 0) {
             c("HoleCard").setPicture(Picture(HoleCards[static_cast<size_t>(HoleCount)]));
@@ -75,7 +80,9 @@ void frmHandgrid::EvaluateLines(bool IsRows) {
 
 void frmHandgrid::EvaluateHand(const Line& Hand, int LineNumber, bool IsRows) {
     const handgrid::Hand hand = handgrid::EvaluateHand(Hand);
-    RoundPoints += HandScores[static_cast<size_t>(hand)];
+    // A 32-bit sum: hand values from the settings file can carry it past its
+    // range, which is the run-time error "Overflow".
+    RoundPoints = CLng(static_cast<double>(RoundPoints) + HandScores[static_cast<size_t>(hand)]);
     c("lblPointsEarned").setCaption("Points Earned: " + NumText(RoundPoints));
     Control& label = c(IsRows ? "lblRow" : "lblCol", LineNumber);
     label.setCaption(HandName(hand));

@@ -153,7 +153,17 @@ void frmHandgrid::NextRound() {
             c("lblScoring").setTop(scoring.top() + scoring.height() + 50);
             scoring.setVisible(true);
             outline.setVisible(true);
-            CountTimeBonus(*this, TimeBonus, {RoundPoints, "ScoringLabelOutline"});
+            try {
+                // Total, seconds left times the bonus times the points, is
+                // worked out in 32-bit numbers from the left; so is the score
+                // it is counted into.
+                const int32_t perPoint = CLng(static_cast<double>(secondsLeft) * TimeBonus);
+                CLng(static_cast<double>(perPoint) * RoundPoints);
+                CountTimeBonus(*this, TimeBonus, {RoundPoints, "ScoringLabelOutline"});
+            } catch (const RuntimeError& error) {
+                EndOnError(error);
+                return;
+            }
             message.setVisible(false);
         }
     }
@@ -162,22 +172,7 @@ void frmHandgrid::NextRound() {
     const bool anotherRound = CurrentRound < 4;
     const bool bonusRound = CurrentRound == 4 && CurrentScore >= BonusScore;
     if (!anotherRound && !bonusRound) {
-        scoring.setCaption(kGameOver);
-        FinishGame(*this, kTable, kDefaultScore,
-                   {[this](bool v) { ShowCards(v); }, [this](bool v, bool s) { ShowControls(v, s); }, false});
-        if (!loaded()) return;
-        runtime().refresh();
-        setMousePointer(11);
-        ShowControls(false, false);
-        CenterScoringLabel();
-        scoring.setVisible(true);
-        Sleep(2000);
-        outline.setVisible(false);
-        scoring.setVisible(false);
-        Reset(true);
-        GameInProgress = false;
-        c("Timer4").setEnabled(true);
-        setMousePointer(0);
+        GameOver();
         return;
     }
 
@@ -215,6 +210,49 @@ void frmHandgrid::NextRound() {
     c("lblPointsEarned").setCaption("Points Earned: 0");
     if (PlayMusic) StartMusic();
     setMousePointer(0);
+}
+
+// The score goes to the table, "Game Over" stands for two seconds, and the
+// splash panel comes back.
+void frmHandgrid::GameOver() {
+    Control& scoring = c("ScoringLabel");
+    scoring.setCaption(kGameOver);
+    FinishGame(*this, kTable, kDefaultScore,
+               {[this](bool v) { ShowCards(v); }, [this](bool v, bool s) { ShowControls(v, s); }, false});
+    if (!loaded()) return;
+    runtime().refresh();
+    setMousePointer(11);
+    ShowControls(false, false);
+    CenterScoringLabel();
+    scoring.setVisible(true);
+    Sleep(2000);
+    c("ScoringLabelOutline").setVisible(false);
+    scoring.setVisible(false);
+    Reset(true);
+    GameInProgress = false;
+    c("Timer4").setEnabled(true);
+    setMousePointer(0);
+}
+
+// A score or a sum of hands past its 32-bit range, in a placement or in the
+// count of a round: the platform's overflow message, then the board is put
+// away as at the end of a round and the game ends with the score made so far.
+void frmHandgrid::EndOnError(const RuntimeError& error) {
+    ShowRunTimeError(error);
+    if (!loaded()) return;
+    TakingScore = true;
+    setMousePointer(11);
+    if (PlayMusic) StopMusic();
+    c("Timer1").setEnabled(false);
+    ShowCards(false);
+    ShowControls(false, true);
+    c("lblScoring").setVisible(false);
+    c("lblMessage").setVisible(false);
+    c("lblCurrentScore").setForeColor(0xFF0000);
+    Control& scoring = c("ScoringLabel");
+    scoring.setForeColor(255);
+    scoring.setFont("MS Sans Serif", 18, scoring.fontBold());
+    GameOver();
 }
 
 }  // namespace ch
