@@ -138,8 +138,10 @@ void frmSpirehold::cmdTakeScore_Click() {
 }
 
 // A run-time error in play or in the end of a round (a count-up past its
-// range) is told, and the game ends there with the score made so far.
+// range) is told, and the game ends there with the score made so far. The
+// clock stands from the error on, also while the message waits.
 void frmSpirehold::EndOnError(const RuntimeError& error) {
+    c("Timer1").setEnabled(false);
     ShowRunTimeError(error);
     if (!loaded()) return;
     c("lblScoring").setVisible(false);
