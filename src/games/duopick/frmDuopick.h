@@ -89,8 +89,6 @@ private:
     int32_t RunsCount = 0;
     bool RoundCompleted = false;
     int16_t CurrentRound = 1;
-    // Which cards were on the table when the game was paused.
-    std::array<bool, duopick::kFieldCards + 1> ShownBeforePause{};
     SplashAnimation Splash;
 };
 
