@@ -139,7 +139,23 @@ void frmDuopick::Timer1_Timer() {
 // ---- The end of a round ---------------------------------------------------------------
 
 void frmDuopick::cmdTakeScore_Click() {
-    if (!TakingScore) TakeScore();
+    if (TakingScore) return;
+    try {
+        TakeScore();
+    } catch (const RuntimeError& error) {
+        EndOnError(error);
+    }
+}
+
+// A run-time error in the end of a round (a score past its 32-bit range) is
+// told, and the game ends there with the score made so far.
+void frmDuopick::EndOnError(const RuntimeError& error) {
+    c("Timer1").setEnabled(false);
+    ShowRunTimeError(error);
+    if (!loaded()) return;
+    c("lblScoring").setVisible(false);
+    c("lblCurrentScore").setForeColor(0xFF0000);
+    GameOver();
 }
 
 // Nothing is paid during play: the round pays here, the completion bonus,
