@@ -585,6 +585,15 @@ void ShowRunTimeError(const RuntimeError& error) {
            MsgIcon::Critical, AppTitle);
 }
 
+bool StopOnRunTimeError(Form& window, const RuntimeError& error) {
+    window.c("Timer1").setEnabled(false);
+    ShowRunTimeError(error);
+    if (!window.loaded()) return false;
+    if (Control* scoring = window.find("lblScoring")) scoring->setVisible(false);
+    if (Control* score = window.find("lblCurrentScore")) score->setForeColor(0xFF0000);
+    return true;
+}
+
 void FinishGame(Form& window, const std::string& tableName, const std::string& defaultScore,
                 const FinishGameSteps& steps) {
     try {

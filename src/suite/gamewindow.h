@@ -315,6 +315,11 @@ SettingsSection NumberSection(const char* name, int32_t& setting);
 // line breaks and the description, with the critical icon and the title
 // AppTitle. The game then ends its game in order; the program goes on.
 void ShowRunTimeError(const RuntimeError& error);
+// The same for a game that ends there: the round clock stops first (it stands
+// while the message waits), then the message; lblScoring goes and
+// lblCurrentScore is blue again. The game then runs its own end of game.
+// False when the window was closed meanwhile.
+bool StopOnRunTimeError(Form& window, const RuntimeError& error);
 
 // ---- End of a game ------------------------------------------------------------
 struct FinishGameSteps {

@@ -150,12 +150,7 @@ void frmDuopick::cmdTakeScore_Click() {
 // A run-time error in the end of a round (a score past its 32-bit range) is
 // told, and the game ends there with the score made so far.
 void frmDuopick::EndOnError(const RuntimeError& error) {
-    c("Timer1").setEnabled(false);
-    ShowRunTimeError(error);
-    if (!loaded()) return;
-    c("lblScoring").setVisible(false);
-    c("lblCurrentScore").setForeColor(0xFF0000);
-    GameOver();
+    if (StopOnRunTimeError(*this, error)) GameOver();
 }
 
 // Nothing is paid during play: the round pays here, the completion bonus,

@@ -17,7 +17,6 @@ namespace {
 const char* const kTable = "SpireholdHiScores";
 const char* const kDefaultScore = "30000";
 const char* const kEndsCurrentTip = "Ends the current game";
-constexpr int kBlue = 0xFF0000;
 constexpr int kRed = 255;
 }  // namespace
 
@@ -138,14 +137,9 @@ void frmSpirehold::cmdTakeScore_Click() {
 }
 
 // A run-time error in play or in the end of a round (a count-up past its
-// range) is told, and the game ends there with the score made so far. The
-// clock stands from the error on, also while the message waits.
+// range) is told, and the game ends there with the score made so far.
 void frmSpirehold::EndOnError(const RuntimeError& error) {
-    c("Timer1").setEnabled(false);
-    ShowRunTimeError(error);
-    if (!loaded()) return;
-    c("lblScoring").setVisible(false);
-    c("lblCurrentScore").setForeColor(kBlue);
+    if (!StopOnRunTimeError(*this, error)) return;
     c("lblMessage").setVisible(true);
     GameOver();
 }
