@@ -10,6 +10,7 @@
 #include <cmath>
 #include <thread>
 
+#include "qt/browser.h"
 #include "qt/fonts.h"
 #include "qt/renderer.h"
 #include "qt/sound.h"
@@ -138,12 +139,18 @@ int QtPlatform::textWidth(const std::string& text, double fontSize, bool bold) {
     return twips;
 }
 
+// The browser is looked for first; a browser found that does not take the
+// page is a failure of its own.
 Platform::WebResult QtPlatform::openWebPage(const std::string& url) {
-    bool opened = false;
+    WebResult result = WebResult::NoBrowser;
     QMetaObject::invokeMethod(
-        &renderer_, [&opened, url] { opened = QDesktopServices::openUrl(QUrl(QString::fromStdString(url))); },
+        &renderer_,
+        [&result, url] {
+            if (DefaultBrowser(url).empty()) return;
+            result = QDesktopServices::openUrl(QUrl(QString::fromStdString(url))) ? WebResult::Opened : WebResult::Failed;
+        },
         Qt::BlockingQueuedConnection);
-    return opened ? WebResult::Opened : WebResult::NoBrowser;
+    return result;
 }
 
 }  // namespace ch

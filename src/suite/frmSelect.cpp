@@ -99,8 +99,11 @@ void frmSelect::cmdClose_Click() {
 
 // The ring: a forward pass turns the cards one by one to backs or to random
 // faces, a backward pass only restacks them. Backs run through entries 2, 5, 8.
+// A tick served inside a handler's DoEvents or message box (a round change
+// that still holds the thread) leaves TakingScore alone, so that no Take
+// Score can start inside a running one.
 void frmSelect::Timer1_Timer() {
-    TakingScore = false;
+    if (!runtime().servingInsideHandler()) TakingScore = false;
     if (SplashBackIndex == 0) SplashBackIndex = 2;
     Control& image = c("imgSplashImage", SplashPosition);
     if (SplashForward) {

@@ -360,6 +360,20 @@ void RunPaused(Form& window, const std::function<void()>& step, const char* mess
     if (pause.enabled() && !reads(kGameOver) && !pausedBefore) window.raise(&pause, Ev::Click);
 }
 
+bool GameRunningUnpaused(const Form& window) {
+    const Control& pause = window.c("cmdPause");
+    return GameInProgress && pause.enabled() && pause.caption() != kResumeCaption;
+}
+
+void RunPausedIfRunning(Form& window, const std::function<void()>& step) {
+    Control& pause = window.c("cmdPause");
+    const bool pauseFirst = GameRunningUnpaused(window);
+    if (pauseFirst) window.raise(&pause, Ev::Click);
+    step();
+    if (!window.loaded()) return;
+    if (pauseFirst && GameInProgress && pause.caption() == kResumeCaption) window.raise(&pause, Ev::Click);
+}
+
 std::vector<ControlSpec> TimeMenuEntries(std::span<const TimeEntry> entries) {
     std::vector<ControlSpec> specs;
     for (const TimeEntry& e : entries) specs.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTime"});
@@ -441,11 +455,13 @@ void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face, 
     for (const char* exit : {"cmdExit", "cmdQuit", "mnuExit"})
         if (window.has(exit)) window.on(exit, Ev::Click, [w](EventArgs&) { w->runtime().unload(*w); });
     window.on("mnuSounds", Ev::Click, [w](EventArgs&) { SetPlaySounds(*w, !PlaySounds); });
-    window.on("mnuMusic", Ev::Click, [w](EventArgs&) {
-        SetPlayMusic(*w, !PlayMusic, GameInProgress && w->c("cmdPause").caption() == kPauseCaption);
-    });
-    const std::pair<const char*, const char*> modal[] = {
-        {"mnuView", "frmHighScores"}, {"mnuRules", "frmRules"}, {"mnuAbout", "frmAbout"}};
+    // A paused game is a running one: the music follows the switch at once.
+    window.on("mnuMusic", Ev::Click, [w](EventArgs&) { SetPlayMusic(*w, !PlayMusic, GameInProgress); });
+    if (window.has("mnuView"))
+        window.on("mnuView", Ev::Click, [w](EventArgs&) {
+            RunPausedIfRunning(*w, [w] { w->runtime().show("frmHighScores", true); });
+        });
+    const std::pair<const char*, const char*> modal[] = {{"mnuRules", "frmRules"}, {"mnuAbout", "frmAbout"}};
     for (const auto& [menu, form] : modal)
         if (window.has(menu))
             window.on(menu, Ev::Click, [w, form, messageLabel](EventArgs&) { ShowModalPaused(*w, form, messageLabel); });
@@ -567,6 +583,15 @@ SettingsSection NumberSection(const char* name, int32_t& setting) { return Numbe
 void ShowRunTimeError(const RuntimeError& error) {
     MsgBox("Run-time error '" + NumText(error.number()) + "':\r\n\r\n" + error.description(), MsgButtons::OK,
            MsgIcon::Critical, AppTitle);
+}
+
+bool StopOnRunTimeError(Form& window, const RuntimeError& error) {
+    window.c("Timer1").setEnabled(false);
+    ShowRunTimeError(error);
+    if (!window.loaded()) return false;
+    if (Control* scoring = window.find("lblScoring")) scoring->setVisible(false);
+    if (Control* score = window.find("lblCurrentScore")) score->setForeColor(0xFF0000);
+    return true;
 }
 
 void FinishGame(Form& window, const std::string& tableName, const std::string& defaultScore,

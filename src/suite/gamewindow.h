@@ -202,6 +202,15 @@ void ShowModalPaused(Form& window, const std::string& formName, const char* mess
 // and resumed by another after it, unless it was paused already or is over.
 void RunPaused(Form& window, const std::function<void()>& step, const char* messageLabel = "lblMessage");
 
+// A game running and not paused, told by the game's state rather than by a
+// caption: GameInProgress, and cmdPause enabled and not reading "&Resume".
+bool GameRunningUnpaused(const Form& window);
+// The pause and resume around a step whose rule speaks of "a running game"
+// (View High Scores, a question asked during a game): a game running and not
+// paused is paused by a click of cmdPause before `step` and resumed by
+// another after it, if it is still in progress and paused then.
+void RunPausedIfRunning(Form& window, const std::function<void()>& step);
+
 // ---- Menus --------------------------------------------------------------------
 struct TimeEntry {
     const char* menu;     // "mnu45"
@@ -248,8 +257,9 @@ void CompleteFormLoad(Form& window, const std::string& tableName, const std::str
 // The handlers every game window binds alike: Timer2 the dial's blink,
 // Timer3 the time of day, Timer4 the splash ring; cmdExit (or cmdQuit) and
 // mnuExit close the window; mnuSounds and mnuMusic switch; mnuView (where the window has
-// it), mnuRules and mnuAbout open their windows around a pause, which
-// reads `messageLabel` to tell a paused or finished game.
+// it) opens the Hall of Fame around a pause of a running game
+// (RunPausedIfRunning); mnuRules and mnuAbout open their windows around a
+// pause that reads `messageLabel` to tell a paused or finished game.
 void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face,
                         const char* messageLabel = "lblMessage");
 // The window's own events: Load, Resize and QueryUnload.
@@ -305,6 +315,11 @@ SettingsSection NumberSection(const char* name, int32_t& setting);
 // line breaks and the description, with the critical icon and the title
 // AppTitle. The game then ends its game in order; the program goes on.
 void ShowRunTimeError(const RuntimeError& error);
+// The same for a game that ends there: the round clock stops first (it stands
+// while the message waits), then the message; lblScoring goes and
+// lblCurrentScore is blue again. The game then runs its own end of game.
+// False when the window was closed meanwhile.
+bool StopOnRunTimeError(Form& window, const RuntimeError& error);
 
 // ---- End of a game ------------------------------------------------------------
 struct FinishGameSteps {

@@ -10,6 +10,15 @@ namespace ch {
 namespace {
 Runtime* g_current = nullptr;
 
+// Counts a DoEvents or message box while it serves events.
+struct Holding {
+    int& count;
+    explicit Holding(int& c) : count(c) { ++count; }
+    ~Holding() { --count; }
+    Holding(const Holding&) = delete;
+    Holding& operator=(const Holding&) = delete;
+};
+
 // Days since 1970-01-01 of a civil date (proleptic Gregorian).
 int64_t DaysFromCivil(int64_t y, int m, int d) {
     y -= m <= 2;
@@ -226,6 +235,7 @@ void Runtime::sleep(int ms) {
 }
 
 void Runtime::doEvents() {
+    const Holding holding(holding_);
     platform_->present(*this);
     InputEvent event;
     while (platform_->wait(event, now(), true) == WaitResult::Input) dispatch(event);
@@ -244,6 +254,7 @@ MsgAnswer Runtime::msgBox(const std::string& text, MsgButtons buttons, MsgIcon i
     MessageBox box{text, title, icon, buttons};
     answers_.push_back(std::nullopt);
     const size_t slot = answers_.size() - 1;
+    const Holding holding(holding_);
     platform_->openMessageBox(box);
     try {
         runUntil([this, slot] { return answers_[slot].has_value(); });

@@ -67,6 +67,10 @@ public:
     void sleep(int ms);                             // blocks: nothing is served
     void doEvents();                                // serves what is queued and due
     void refresh() { platform_->present(*this); }   // the renderer sees the model now
+    // True while events are served by a DoEvents or during a message box: a
+    // handler below them still holds the thread, in the middle of its steps.
+    // (A modal form is a window of its own, waited on; it does not count.)
+    bool servingInsideHandler() const { return holding_ > 0; }
     MsgAnswer msgBox(const std::string& text, MsgButtons buttons, MsgIcon icon, const std::string& title);
     [[noreturn]] void end();                        // ends the program at once
 
@@ -106,6 +110,7 @@ private:
     std::map<const Form*, size_t> boxesUnder_;  // message boxes open when each modal form was shown
     std::map<std::string, VariableGetter> globals_;
     int depth_ = 0;
+    int holding_ = 0;  // DoEvents and message boxes in progress
     std::set<const Control*> runningTimers_;  // a timer does not fire inside its own handler
     std::vector<std::optional<MsgAnswer>> answers_;  // open message boxes, innermost last
     uint64_t revision_ = 0;

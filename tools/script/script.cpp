@@ -576,6 +576,19 @@ std::optional<HeadlessPlatform::Step> ScriptRunner::execute(const std::vector<st
         else SetFileFault(it->second, under);
         return std::nullopt;
     }
+    if (cmd == "browser") {
+        // browser opens|none|fails: what opening a web page does from now on:
+        // the page opens, no browser is found, or the browser found fails.
+        needs(2);
+        static const std::map<std::string, Platform::WebResult> kResults = {
+            {"opens", Platform::WebResult::Opened},
+            {"none", Platform::WebResult::NoBrowser},
+            {"fails", Platform::WebResult::Failed}};
+        auto it = kResults.find(t[1]);
+        if (it == kResults.end()) error("browser takes opens, none or fails");
+        platform_.setWebResult(it->second);
+        return std::nullopt;
+    }
     if (cmd == "quit") {
         needs(1);
         Step step;

@@ -242,10 +242,6 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int design = 1; design <= 4; ++design)
         on(kReversedDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
-    // The pause button reads "P&ause" here.
-    on("mnuMusic", Ev::Click, [this](EventArgs&) {
-        SetPlayMusic(*this, !PlayMusic, GameInProgress && c("cmdPause").caption() == kPauseCaptionHere);
-    });
     on("mnuUserOptions", Ev::Click,
        [this](EventArgs&) { this->runtime().show("frmBlackrushCustomScoring", true); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });

@@ -251,8 +251,9 @@ void frmDuopick::mnuDeck_Click(int design) {
     DeckDesign = static_cast<int16_t>(design);
 }
 
+// A running game that is not paused is paused while the question stands.
 void frmDuopick::mnuClear_Click() {
-    RunPaused(*this, [this] {
+    RunPausedIfRunning(*this, [this] {
         if (!AskYesNo(kClearScoresQuestion)) return;
         CreateHighScoreFile(kClearedTable, *this, kMenuScore);
         ShowHighScore(kClearedTable, *this, kMenuScore);

@@ -71,6 +71,7 @@ private:
     void ResumeGame();
     void cmdTakeScore_Click();
     void TakeScore();
+    void EndOnError(const RuntimeError& error);
     void GameOver();
     void Timer1_Timer();
     void ShowScore();
@@ -89,8 +90,6 @@ private:
     int32_t RunsCount = 0;
     bool RoundCompleted = false;
     int16_t CurrentRound = 1;
-    // Which cards were on the table when the game was paused.
-    std::array<bool, duopick::kFieldCards + 1> ShownBeforePause{};
     SplashAnimation Splash;
 };
 

@@ -1,6 +1,7 @@
 // The Duopick board: the deal, the clicks on the cards and on the stack, the
 // selection, and what the board shows.
 #include <array>
+#include <cstdint>
 
 #include "games/duopick/frmDuopick.h"
 #include "suite/cards.h"
@@ -165,7 +166,9 @@ void frmDuopick::SecondCard(int index) {
 // ---- The stack ----------------------------------------------------------------------------
 
 // Runs with errors ignored statement by statement: once the stack is spent
-// the entries past its end fail to read, and the steps after them go on.
+// the entries past its end fail to read, and the steps after them go on. At
+// the top of their 16-bit range WastePos and StackIndex can't be raised, and
+// stay.
 void frmDuopick::CardStackPicture_Click() {
     setMousePointer(11);
     CardsRemaining = static_cast<int16_t>(CardsRemaining > 0 ? CardsRemaining - 1 : 0);
@@ -184,9 +187,9 @@ void frmDuopick::CardStackPicture_Click() {
         Ignoring([&] { DeckCards[static_cast<size_t>(gap)] = UpCards.at(static_cast<size_t>(WastePos)); });
         WastePos -= 1;
     }
-    WastePos += 1;
+    if (WastePos < INT16_MAX) WastePos += 1;
     Ignoring([&] { UpCards.at(static_cast<size_t>(WastePos)) = DeckCards.at(static_cast<size_t>(StackIndex)); });
-    StackIndex += 1;
+    if (StackIndex < INT16_MAX) StackIndex += 1;
 
     Control& up = c("PlayCard", kUpCard);
     Ignoring([&] { up.setPicture(PictureOf(Deck.at(static_cast<size_t>(StackIndex)))); });

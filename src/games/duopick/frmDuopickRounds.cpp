@@ -42,14 +42,14 @@ void frmDuopick::Play() {
         return;
     }
     bool quit = false;
-    RunPaused(*this, [&quit] { quit = AskYesNo(kQuitQuestion); });
+    RunPausedIfRunning(*this, [&quit] { quit = AskYesNo(kQuitQuestion); });
     if (!quit || !loaded()) return;
-    // An abandoned game enters no score in the table.
+    // An abandoned game enters no score in the table. The selection stands:
+    // its outline stays, and the card keeps it into the next game.
     c("mnuTime").setEnabled(true);
     c("mnuCustom").setEnabled(true);
     SetPlayCaptions(*this, false);
     GameInProgress = false;
-    ClearSelectionRectangles();
     ShowCards(false);
     ShowControls(false, true);
     for (const char* name : {"mnuTakeScore", "mnuPause", "cmdTakeScore", "cmdPause"}) c(name).setEnabled(false);
@@ -95,20 +95,23 @@ void frmDuopick::cmdPause_Click() {
 }
 
 // A paused game can't be studied: the cards and the selection leave the
-// table and come back as they were.
+// table. Resuming shows the board as it is then: every card that has a
+// picture (a gap has none), the up card, the stack and the selection, also
+// when the game was paused while a round change had the cards hidden.
 void frmDuopick::PauseGame() {
     SetPausedControls(*this);
-    for (int i = 0; i <= kUpCard; ++i) {
-        ShownBeforePause[static_cast<size_t>(i)] = c("PlayCard", i).visible();
-        c("FieldSelectionRectangle", i).setVisible(false);
-    }
+    for (int i = 0; i <= kUpCard; ++i) c("FieldSelectionRectangle", i).setVisible(false);
     ShowCards(false);
     if (PlayMusic) StopMusic();
 }
 
 void frmDuopick::ResumeGame() {
     SetResumedControls(*this);
-    for (int i = 0; i <= kUpCard; ++i) c("PlayCard", i).setVisible(ShownBeforePause[static_cast<size_t>(i)]);
+    for (int i = 0; i < kFieldCards; ++i) {
+        Control& card = c("PlayCard", i);
+        card.setVisible(card.picture() != 0);
+    }
+    c("PlayCard", kUpCard).setVisible(true);
     c("CardStackPicture").setVisible(true);
     if (CardsSelected == 1) c("FieldSelectionRectangle", FirstCardIndex).setVisible(true);
     if (PlayMusic && GameInProgress) StartMusic();
@@ -136,7 +139,18 @@ void frmDuopick::Timer1_Timer() {
 // ---- The end of a round ---------------------------------------------------------------
 
 void frmDuopick::cmdTakeScore_Click() {
-    if (!TakingScore) TakeScore();
+    if (TakingScore) return;
+    try {
+        TakeScore();
+    } catch (const RuntimeError& error) {
+        EndOnError(error);
+    }
+}
+
+// A run-time error in the end of a round (a score past its 32-bit range) is
+// told, and the game ends there with the score made so far.
+void frmDuopick::EndOnError(const RuntimeError& error) {
+    if (StopOnRunTimeError(*this, error)) GameOver();
 }
 
 // Nothing is paid during play: the round pays here, the completion bonus,
@@ -205,9 +219,7 @@ void frmDuopick::GameOver() {
     message.setVisible(true);
     runtime().refresh();
     Sleep(2000);
-    // The splash panel takes the middle of the window again; the caption
-    // stays "Game Over".
-    message.setVisible(false);
+    // "Game Over" stays on show over the splash panel until the next game.
     ShowSplash(*this, true);
     setMousePointer(0);
 }

@@ -183,8 +183,6 @@ frmSpirehold::frmSpirehold(Runtime& runtime) : Form(runtime, "frmSpirehold") {
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int design = 1; design <= 4; ++design)
         on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
-    // The music switch reads a running game from the pause button and the message.
-    on("mnuMusic", Ev::Click, [this](EventArgs&) { SetPlayMusic(*this, !PlayMusic, GameRunning()); });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmSpireholdCustom", true); });
     on("mnuClearHighRun", Ev::Click, [this](EventArgs&) { mnuClearHighRun_Click(); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });

@@ -1,6 +1,7 @@
 // Spirehold's board: the deal, the legal move, the clicks on the tower
 // cards, the stack and the up card, the run labels, and what the board shows.
 #include <array>
+#include <cstdint>
 
 #include "games/spirehold/frmSpirehold.h"
 #include "suite/cards.h"
@@ -116,7 +117,8 @@ void frmSpirehold::lblCurrentRun_Change() {
 }
 
 // Each step goes on whatever the one before did: past the end of the deck
-// the up card keeps its picture and, past DeckCards(52), its value.
+// the up card keeps its picture and, past DeckCards(52), its value. At the
+// top of its 16-bit range StackIndex can't be raised, and stays.
 void frmSpirehold::CardStackPicture_Click() {
     if (TakingScore) return;
     setMousePointer(11);
@@ -127,7 +129,7 @@ void frmSpirehold::CardStackPicture_Click() {
     ShowCardsRemaining();
     Wave("\\Click.wav");
     if (StackIndex + 1 <= DeckUpperBound()) ShowPicture("UpCardPicture", -1, Deck[static_cast<size_t>(StackIndex) + 1]);
-    StackIndex += 1;
+    if (StackIndex < INT16_MAX) StackIndex += 1;
     if (StackIndex - 1 < kDeckCardsSize) UpCardValue = static_cast<int16_t>(Rank(DeckCards[static_cast<size_t>(StackIndex) - 1]));
     const std::string stage = StackStageKey(StackIndex);
     if (stage.empty())

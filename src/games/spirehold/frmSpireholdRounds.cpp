@@ -17,7 +17,6 @@ namespace {
 const char* const kTable = "SpireholdHiScores";
 const char* const kDefaultScore = "30000";
 const char* const kEndsCurrentTip = "Ends the current game";
-constexpr int kBlue = 0xFF0000;
 constexpr int kRed = 255;
 }  // namespace
 
@@ -140,10 +139,7 @@ void frmSpirehold::cmdTakeScore_Click() {
 // A run-time error in play or in the end of a round (a count-up past its
 // range) is told, and the game ends there with the score made so far.
 void frmSpirehold::EndOnError(const RuntimeError& error) {
-    ShowRunTimeError(error);
-    if (!loaded()) return;
-    c("lblScoring").setVisible(false);
-    c("lblCurrentScore").setForeColor(kBlue);
+    if (!StopOnRunTimeError(*this, error)) return;
     c("lblMessage").setVisible(true);
     GameOver();
 }

@@ -199,7 +199,9 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
         on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
     on("mnuDrawTimer", Ev::Click, [this](EventArgs&) { mnuDrawTimer_Click(); });
     on("mnuScoring", Ev::Click, [this](EventArgs&) { this->runtime().show("frmSumfallCustomScoring", true); });
-    on("mnuViewHiScore", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmHighScores"); });
+    on("mnuViewHiScore", Ev::Click, [this](EventArgs&) {
+        RunPausedIfRunning(*this, [this] { this->runtime().show("frmHighScores", true); });
+    });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
     on("mnuSave", Ev::Click, [this](EventArgs&) { this->runtime().show("frmSave", true); });
     on("mnuOpen", Ev::Click, [this](EventArgs&) { this->runtime().show("frmOpen", true); });
