@@ -55,7 +55,13 @@ void frmBlackrush::Hit(int index) {
 }
 
 void frmBlackrush::cmdPass_Click() {
-    PassesLeft -= 1;
+    // A pass count below its 16-bit range (a settings file's -32768) overflows.
+    try {
+        PassesLeft = CInt(PassesLeft - 1.0);
+    } catch (const RuntimeError& error) {
+        EndOnError(error);
+        return;
+    }
     DeckPosition += 1;
     c("lblCardsUsedCount").setCaption(NumText(DeckPosition - 1));
     Wave("\\Click.wav");

@@ -126,6 +126,12 @@ void frmSumfall::cmdTakeScore_Click(bool fromMenu) {
 }
 
 void frmSumfall::Timer1_Timer() {
+    // A round that never runs out (a saved game's limit of 0 or less) counts
+    // its seconds in 16 bits: the 32,768th overflows.
+    if (ElapsedSeconds == INT16_MAX) {
+        EndOnError(RuntimeError(kErrOverflow, "Overflow"));
+        return;
+    }
     AdvanceRoundClock(*this);
     ShowTimeWarnings(*this);
     if (ElapsedSeconds != TimeLimit) return;
