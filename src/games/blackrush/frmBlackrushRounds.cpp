@@ -41,10 +41,11 @@ void frmBlackrush::Play() {
     CurrentScore = 0;
     ShowScore();
     PassesLeft = Scoring.CardsToPass;
-    // A new game is neither quit nor over: the rules and the Hall of Fame
-    // pause it again.
+    // A new game is not quit: its score goes to the table. The last game's
+    // "Game Over" stays in ScoringLabelInfo until the next message, so the
+    // rules and the about box, which read it, don't pause this game's first
+    // round.
     QuitRequested = false;
-    c("ScoringLabelInfo").setCaption("");
     ShowSplash(*this, false);
     GameInProgress = true;
     SetPlayCaptions(*this, true, kEndGameHere);
