@@ -365,6 +365,7 @@ void frmSumfall::EndOnError(const RuntimeError& error) {
     c("lblMessage").setVisible(false);
     c("lblCurrentElevens").setForeColor(0xFF0000);
     TakingScore = false;
+    UpCardUsed = false;
     GameOver();
     if (!loaded()) return;
     CloseScoring();
@@ -446,6 +447,9 @@ bool frmSumfall::LoadSavedGame(const std::string& path) {
         if (MsgBox(message, MsgButtons::YesNo, MsgIcon::Question, "Saved Game Information") == MsgAnswer::Yes) {
             TimeLimit = static_cast<int16_t>(game.timeLimit);
             ApplyTimeSetting(*this, NumText(game.timeLimit), kTimeEntries);
+            // A limit the menu hasn't still gets its table shown, and made,
+            // so that the replay's score can go in.
+            ShowHighScore(kTable, *this, kDefaultScore);
         }
     } else {
         MsgBox(message, MsgButtons::OK, MsgIcon::Information, "Saved Game Information");
