@@ -184,9 +184,11 @@ std::string Fuzzer::nextLine() {
     }
 
     int64_t busyUntil = 0;
-    if (platform_.queuedAnswers() < 3) {
+    if (platform_.queuedAnswers() < 4) {
         // Every message box finds an answer waiting, sometimes after a while:
-        // three, since one event may open several boxes.
+        // four, since one event may open several boxes (a saved game that
+        // can't be dealt: its information, the deal, Play's failure and the
+        // close question).
         line = std::string("answer ") + (chance(0.5) ? "first" : "second");
         if (chance(0.2)) line += " after " + std::to_string(uniform(1, 3000));
     } else if (!settingsWritten_ && !options_.settingsFile.empty()) {

@@ -213,6 +213,7 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
     c("lblRoundScoreCount").setFont("Arial", 12, true);
     c("lblRoundScoreCount").setForeColor(0xFF0000);
     c("ProgressBar1").setRange(0, 100);
+    c("NextCardPicture").setBorderStyle(1);
     ShowGameBoard(false);
     c("lblHighScore").setVisible(true);
     for (const auto& control : controls()) {
@@ -323,7 +324,8 @@ void frmBlackrush::Form_Load() {
     ChooseTimeLimit(*this, kTimeEntries, "mnu90");
     SetPlaySounds(*this, true);
     SetPlayMusic(*this, false, false);
-    ChooseBackDesign(*this, kReversedDeckMenus[2]);
+    // The design's number alone: the backs in force stay until "[Deck]" or
+    // the menu chooses a design.
     DeckDesign = 3;
     CountDownScore = true;
     Scoring = ScoringValues{};

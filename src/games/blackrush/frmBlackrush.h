@@ -50,6 +50,7 @@ private:
 
     // ---- The board (frmBlackrushBoard.cpp) ----
     void cmdHit_Click(int index);
+    void Hit(int index);
     void cmdPass_Click();
     int GetHitTotal(int index);
     int CalculateAces(int index);
@@ -81,6 +82,8 @@ private:
     void EndGameQuestion();
     void PauseGame();
     void cmdTakeScore_Click();
+    void TakeScore();
+    void EndOnError(const RuntimeError& error);
     void NextRound();
     void Timer1_Timer();
     void Timer3_Timer();

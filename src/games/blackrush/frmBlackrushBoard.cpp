@@ -18,13 +18,21 @@ using namespace blackrush;
 namespace {
 const char* const kColumnNames[kColumns] = {"Column1", "Column2", "Column3", "Column4"};
 constexpr int kBlue = 0xFF0000;
-constexpr int kRed = 255;
 }  // namespace
 
 // ---- Hit and Pass --------------------------------------------------------------------
 
+// A score past its 32-bit range (a Gimme, the deck's bonus) ends the game.
 void frmBlackrush::cmdHit_Click(int index) {
     if (TakingScore) return;
+    try {
+        Hit(index);
+    } catch (const RuntimeError& error) {
+        EndOnError(error);
+    }
+}
+
+void frmBlackrush::Hit(int index) {
     const int total = GetHitTotal(index);
     if (total <= 21) {
         LayCard(index, total);
@@ -47,7 +55,13 @@ void frmBlackrush::cmdHit_Click(int index) {
 }
 
 void frmBlackrush::cmdPass_Click() {
-    PassesLeft -= 1;
+    // A pass count below its 16-bit range (a settings file's -32768) overflows.
+    try {
+        PassesLeft = CInt(PassesLeft - 1.0);
+    } catch (const RuntimeError& error) {
+        EndOnError(error);
+        return;
+    }
     DeckPosition += 1;
     c("lblCardsUsedCount").setCaption(NumText(DeckPosition - 1));
     Wave("\\Click.wav");
@@ -109,7 +123,8 @@ void frmBlackrush::LayCard(int index, int total) {
         TwentyOnes += 1;
         c("lbl21s").setCaption(NumText(TwentyOnes));
         Control& bonus = c("lblBonus");
-        bonus.setCaption(NumText(CLng(Val(bonus.caption())) + static_cast<long long>(Scoring.TwentyOneBonusValue)));
+        // The label holds the bonus as a number of any size.
+        bonus.setCaption(NumText(static_cast<long long>(Val(bonus.caption())) + Scoring.TwentyOneBonusValue));
         c("ColumnTotal", index).setCaption("21");
         ResetColumnImages(index);
         ColumnCards[col] = 0;
@@ -286,11 +301,8 @@ void frmBlackrush::ShowMessage(const std::string& text, bool hold) {
 
 // ---- Small helpers ------------------------------------------------------------------------
 
-void frmBlackrush::ShowScore() {
-    Control& score = c("lblTotalScore");
-    score.setCaption(FormatScore(CurrentScore));
-    score.setForeColor(CurrentScore < 0 ? kRed : kBlue);
-}
+// The score keeps its colour, below zero too.
+void frmBlackrush::ShowScore() { c("lblTotalScore").setCaption(FormatScore(CurrentScore)); }
 
 void frmBlackrush::ShowCard(Control& image, const std::string& code) {
     image.setPicture(ImageList2().indexOf(CardKey(code)));

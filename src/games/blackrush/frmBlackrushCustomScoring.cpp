@@ -105,6 +105,8 @@ void frmBlackrushCustomScoring::cmdOK_Click() {
             setFocus(field);
         });
     } catch (const RuntimeError& error) {
+        // A box the checks corrected before the error keeps its new text.
+        for (int box = 0; box < kOptionBoxes; ++box) c(kBoxes[box]).setText(texts[static_cast<size_t>(box)]);
         MsgBox(error.description(), MsgButtons::OK, MsgIcon::Exclamation, AppTitle);
         return;
     }

@@ -41,10 +41,11 @@ void frmBlackrush::Play() {
     CurrentScore = 0;
     ShowScore();
     PassesLeft = Scoring.CardsToPass;
-    // A new game is neither quit nor over: the rules and the Hall of Fame
-    // pause it again.
+    // A new game is not quit: its score goes to the table. The last game's
+    // "Game Over" stays in ScoringLabelInfo until the next message, so the
+    // rules and the about box, which read it, don't pause this game's first
+    // round.
     QuitRequested = false;
-    c("ScoringLabelInfo").setCaption("");
     ShowSplash(*this, false);
     GameInProgress = true;
     SetPlayCaptions(*this, true, kEndGameHere);
@@ -69,12 +70,11 @@ void frmBlackrush::Play() {
     ClearDial();
     ElapsedSeconds = 0;
     DeckPosition = 0;
-    Control& next = c("NextCardPicture");
-    ShowCard(next, Deck.at(static_cast<size_t>(DeckPosition + 1)));
-    next.setBorderStyle(1);
+    // The pile keeps its last picture until the first card is laid or the
+    // next round deals; the next card keeps its border style.
+    ShowCard(c("NextCardPicture"), Deck.at(static_cast<size_t>(DeckPosition + 1)));
     c("lblCardsUsedCount").setCaption(NumText(DeckPosition));
     DeckPosition += 1;
-    ShowPile();
     if (PlayMusic) StartMusic();
 }
 
@@ -171,8 +171,36 @@ void frmBlackrush::Timer5_Timer() {
 // ---- The end of a round -------------------------------------------------------------------
 
 // Cards used, then the 21s times the bonus as it stands; the clock runs on.
+// A count past the score's 32-bit range ends the game.
 void frmBlackrush::cmdTakeScore_Click() {
     if (TakingScore) return;
+    try {
+        TakeScore();
+    } catch (const RuntimeError& error) {
+        EndOnError(error);
+    }
+}
+
+// The platform's message for the error, then the game ends with the score
+// made so far, through the end of the last round: the count's labels as
+// they stand between rounds, the score offered to the table, Game Over.
+void frmBlackrush::EndOnError(const RuntimeError& error) {
+    ShowRunTimeError(error);
+    if (!loaded()) return;
+    for (const char* name : {"lbl21Bonus", "lblTwentyOnes", "lbl21s", "lblBonus", "lblCardsUsed", "lblCardsUsedCount"})
+        c(name).setForeColor(kBlue);
+    for (const char* name : {"lblRoundScore", "lblRoundScoreCount", "lblBust", "lblFiveCards"}) c(name).setVisible(false);
+    c("ProgressBar1").setVisible(true);
+    c("lblTwentyoneTime").setVisible(true);
+    c("lbl21s").setCaption("0");
+    c("lblBonus").setCaption("0");
+    TwentyOnes = 0;
+    CurrentRound = 5;
+    NextRound();
+    if (loaded()) setMousePointer(0);
+}
+
+void frmBlackrush::TakeScore() {
     TakingScore = true;
     setMousePointer(11);
     Control& cardsUsed = c("lblCardsUsed");
@@ -215,7 +243,7 @@ void frmBlackrush::cmdTakeScore_Click() {
     if (twentyOnes.caption() != "0") {
         for (const char* name : fourLabels) c(name).setForeColor(kRed);
         const long long made = CLng(Val(twentyOnes.caption()));
-        const long long value = CLng(Val(bonus.caption()));
+        const long long value = static_cast<long long>(Val(bonus.caption()));
         const long long payout = made * value;
         roundScore.setCaption(RoundScoreText(made, value));
         roundScoreCount.setCaption(NumText(payout));
@@ -225,11 +253,13 @@ void frmBlackrush::cmdTakeScore_Click() {
         Pause(750);
         const long long step = Scoring.TwentyOneBonusValue;
         if (CountDownScore) {
-            for (long long i = 1; step > 0 && i <= payout; i += step) {
+            // From 1 to the payout in steps of the bonus value, downwards for
+            // a negative one; a zero value has nothing to count.
+            for (long long i = 1; step != 0 && (step > 0 ? i <= payout : i >= payout); i += step) {
                 Pause(75);
                 AddToScore(step);
                 ShowScore();
-                roundScoreCount.setCaption(NumText(CLng(Val(roundScoreCount.caption())) - step));
+                roundScoreCount.setCaption(NumText(static_cast<long long>(Val(roundScoreCount.caption())) - step));
                 Wave("\\CountScore.wav");
                 runtime().refresh();
             }
@@ -297,7 +327,9 @@ void frmBlackrush::NextRound() {
         DeckPosition = 0;
         c("lblRound").setCaption(kGameOver);
         GameInProgress = false;
-        SetPlayCaptions(*this, false);
+        // The captions only: the tool tip changes with a confirmed End Game.
+        c("cmdPlay").setCaption(kPlayCaption);
+        c("mnuPlay").setCaption(kPlayCaption);
         ShowMessage(kGameOver, false);
         c("frameScoreInfo").setVisible(false);
         ShowSplash(*this, true);
@@ -325,9 +357,7 @@ void frmBlackrush::NextRound() {
             place.setVisible(true);
         }
         DeckPosition = 1;
-        Control& next = c("NextCardPicture");
-        ShowCard(next, Deck.at(1));
-        next.setBorderStyle(1);
+        ShowCard(c("NextCardPicture"), Deck.at(1));
         if (Scoring.CardsToPass != 0) {
             c("cmdPass").setEnabled(true);
             PassesLeft = Scoring.CardsToPass;

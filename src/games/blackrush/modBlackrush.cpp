@@ -73,6 +73,8 @@ bool CheckUserOptions(OptionTexts& texts, ScoringValues& values, int16_t& passes
         values.WaitPeriod = 0;
         fail(kWaitBox, "Sorry, a minimum of 0 seconds is required for the waiting period between rounds.", "0");
     } else if (wait > 60) {
+        // The box reads "0" before the minute is stored; the store overflows.
+        texts[kWaitBox] = "0";
         values.WaitPeriod = CInt(60000);
         fail(kWaitBox, "Sorry, a maximum of 60 seconds is allowed for the waiting period between rounds.", "0");
     } else {

@@ -83,7 +83,8 @@ using OptionTexts = std::array<std::string, kOptionBoxes>;
 // (through `refuse`, which shows the message), gets a corrected text and
 // stores what its test says. `passesLeft` follows the pass count. A wait of
 // 33 seconds or more can't be stored in milliseconds: RuntimeError
-// "Overflow" is thrown there and the later fields are left as they were.
+// "Overflow" is thrown there (above 60 after its text became "0") and the
+// later fields are left as they were.
 // Returns true when every field passed.
 using RefuseField = std::function<void(const std::string& message, OptionBox focus)>;
 bool CheckUserOptions(OptionTexts& texts, ScoringValues& values, int16_t& passesLeft, const RefuseField& refuse);

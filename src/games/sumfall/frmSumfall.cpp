@@ -6,6 +6,7 @@
 #include "games/sumfall/frmSumfall.h"
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 
 #include "games/sumfall/frmSave.h"
@@ -176,11 +177,22 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
     BindPlayAndPause(*this, [this](bool fromMenu) { cmdPlay_Click(fromMenu); }, [this] { cmdPause_Click(); });
     on("cmdTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(false); });
     on("mnuTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(true); });
-    on("FieldCardPicture", Ev::Click, [this](EventArgs& e) { FieldCardPicture_Click(e.index); });
+    // A combination or a flip that takes the score past its 32-bit range
+    // ends the game with the platform's message.
+    const auto guarded = [this](std::function<void(EventArgs&)> click) {
+        return [this, click](EventArgs& e) {
+            try {
+                click(e);
+            } catch (const RuntimeError& error) {
+                EndOnError(error);
+            }
+        };
+    };
+    on("FieldCardPicture", Ev::Click, guarded([this](EventArgs& e) { FieldCardPicture_Click(e.index); }));
     on("FieldCardPicture", Ev::MouseMove, [this](EventArgs& e) { FieldCardPicture_MouseMove(e.index); });
-    on("UpCardPicture", Ev::Click, [this](EventArgs&) { UpCardPicture_Click(); });
+    on("UpCardPicture", Ev::Click, guarded([this](EventArgs&) { UpCardPicture_Click(); }));
     on("UpCardPicture", Ev::MouseMove, [this](EventArgs&) { UpCardPicture_MouseMove(); });
-    on("PlayCardPicture", Ev::Click, [this](EventArgs&) { PlayCardPicture_Click(); });
+    on("PlayCardPicture", Ev::Click, guarded([this](EventArgs&) { PlayCardPicture_Click(); }));
     on("PlayCardPicture", Ev::MouseMove, [this](EventArgs&) { PlayCardPicture_MouseMove(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
     BindSharedHandlers(*this, Splash, SplashFace::Sumfall);
@@ -281,7 +293,6 @@ void frmSumfall::Form_Load() {
     c("lblElevens").setCaption(CardGoalWord(CardGoal));
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
-    c("mnuSave").setEnabled(false);
     CompleteFormLoad(*this, kTable, kDefaultScore);
 }
 

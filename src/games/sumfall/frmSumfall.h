@@ -47,7 +47,8 @@ public:
     int32_t CombinationBonus = sumfall::kDefaultCombinationBonus;
 
     // The deck of each round as dealt: what Replay and saved games use.
-    std::vector<std::string> Round1Deck, Round2Deck, Round3Deck;
+    // Before the first game they hold the empty codes of a full deck.
+    std::vector<std::string> Round1Deck = EmptyDeck(), Round2Deck = EmptyDeck(), Round3Deck = EmptyDeck();
     // The card goal those decks were made for, which sets their size: a saved
     // game names it, so that it reads back even after the goal was changed.
     int DecksCardGoal = sumfall::kDefaultCardGoal;
@@ -87,6 +88,9 @@ private:
     bool Deal(bool newGame = false);
     void Play();
     void TakeScore();
+    void GameOver();
+    void CloseScoring();
+    void EndOnError(const RuntimeError& error);
     void EndGame();
     void PauseGame();
     void ResumeGame();
@@ -115,6 +119,12 @@ private:
     // The picture of a card code; a code with no picture (an empty slot of a
     // damaged saved game) is an error, as the catalogue's lookup always was.
     static int PictureOf(const std::string& code);
+    // Each deck a replay will deal has a picture for every code; false for a
+    // saved game that names a card the catalogue doesn't have.
+    bool ReplayDecksHavePictures() const;
+    static std::vector<std::string> EmptyDeck() {
+        return std::vector<std::string>(static_cast<size_t>(sumfall::DeckSize(sumfall::kDefaultCardGoal)) + 1);
+    }
 
     // The board.
     std::array<std::string, sumfall::kFieldPlaces> FieldCards;

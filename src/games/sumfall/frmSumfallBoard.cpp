@@ -38,8 +38,20 @@ bool frmSumfall::CreateSumfallDeck() {
     }
 }
 
+bool frmSumfall::ReplayDecksHavePictures() const {
+    for (const std::vector<std::string>* deck : {&Round1Deck, &Round2Deck, &Round3Deck}) {
+        // A later round the stored game never reached is shuffled anew.
+        if (deck != &Round1Deck && (deck->size() < 2 || (*deck)[1].empty())) continue;
+        for (size_t i = 1; i < deck->size(); ++i)
+            if (ImageList2().indexOf(CardKey((*deck)[i])) == 0) return false;
+    }
+    return true;
+}
+
 bool frmSumfall::Deal(bool newGame) {
     try {
+        // A replay's decks are all checked before a card is shown.
+        if (newGame && ReplayPending && !ReplayDecksHavePictures()) throw RuntimeError(35601, "Element not found");
         const int lastCard = DeckUpperBound();
         StockCards.assign(static_cast<size_t>(std::max(lastCard - 22, 0)) + 1, std::string());
         const int stockUpperBound = static_cast<int>(StockCards.size()) - 1;

@@ -117,11 +117,21 @@ void frmSumfall::cmdTakeScore_Click(bool fromMenu) {
         return;
     }
     if (TakingScore) return;
-    TakeScore();
+    try {
+        TakeScore();
+    } catch (const RuntimeError& error) {
+        EndOnError(error);
+    }
     if (!fromMenu && loaded() && PlayMusic && GameInProgress) StartMusic();
 }
 
 void frmSumfall::Timer1_Timer() {
+    // A round that never runs out (a saved game's limit of 0 or less) counts
+    // its seconds in 16 bits: the 32,768th overflows.
+    if (ElapsedSeconds == INT16_MAX) {
+        EndOnError(RuntimeError(kErrOverflow, "Overflow"));
+        return;
+    }
     AdvanceRoundClock(*this);
     ShowTimeWarnings(*this);
     if (ElapsedSeconds != TimeLimit) return;
@@ -179,7 +189,7 @@ void frmSumfall::TakeScore() {
     if (CombinationCount != 0) {
         const std::string& word = c("lblElevens").caption();
         message.setCaption(NumText(CombinationCount) + " " + word.substr(0, word.empty() ? 0 : word.size() - 1) +
-                           "! Bonus = " + NumText(static_cast<long long>(CombinationBonus) * CombinationCount));
+                           "! Bonus = " + NumText(CLng(static_cast<double>(CombinationBonus) * CombinationCount)));
         message.setVisible(true);
         runtime().refresh();
         score.setForeColor(0xFFFF00);
@@ -206,7 +216,8 @@ void frmSumfall::TakeScore() {
 
     const int left = TimeLimit - ElapsedSeconds;
     if (left >= 1) {
-        message.setCaption("Speed Bonus! " + NumText(static_cast<long long>(left) * TimeBonus));
+        // The bonus is a 32-bit product: one past the range overflows here.
+        message.setCaption("Speed Bonus! " + NumText(CLng(static_cast<double>(left) * TimeBonus)));
         message.setVisible(true);
         runtime().refresh();
         score.setForeColor(0xFFFF00);
@@ -271,59 +282,93 @@ void frmSumfall::TakeScore() {
         FieldCardDisplay(true);
         ReplayPending = false;
     } else {
-        for (int i = 0; i < kFieldPlaces; ++i) {
-            c("FieldCardPicture", i).setVisible(false);
-            c("FieldSelectionRectangle", i).setVisible(false);
-        }
-        CurrentRound = 1;
-        GameInProgress = false;
-        PreviousScore = CurrentScore;
-        ShowLowerCards(false);
-        c("mnuSave").setEnabled(true);
-        c("mnuOpen").setEnabled(true);
-        c("StatusBar1").setPanel(2, "Game over");
-        c("lblCurrentTotal").setCaption("0");
-
-        if (!UpdateHighScoreTable(kTable, *this) || !loaded() || !ShowHighScore(kTable, *this, kDefaultScore))
-            MsgBox("An error occured when attmpting to access the High Score Table. Please close and restart the "
-                   "game.",
-                   MsgButtons::OK, MsgIcon::Critical, AppTitle);
+        GameOver();
         if (!loaded()) return;
-
-        // The caption's Change places the label again, over the field.
-        message.setTop(height() / 2);
-        message.setCaption(kGameOver);
-        message.setForeColor(255);
-        setMousePointer(11);
-        message.setVisible(true);
-        runtime().refresh();
-        Sleep(2000);
-        message.setVisible(false);
-        setMousePointer(0);
-
-        ShowSplash(*this, true);
-        c("cmdExit").setEnabled(true);
-        c("cmdPlay").setEnabled(true);
-        SetPlayCaptions(*this, false);
-        for (const char* name : {"cmdTakeScore", "mnuTakeScore"}) {
-            c(name).setCaption(kReplayCaption);
-            c(name).setEnabled(true);
-        }
-        c("cmdTakeScore").setToolTipText(kReplayTip);
-        for (const char* name : {"mnuExit", "mnuPlay", "mnuTime", "mnuGoal", "mnuScoring"}) c(name).setEnabled(true);
-        c("cmdPause").setEnabled(false);
-        c("mnuPause").setEnabled(false);
-        ElapsedSeconds = TimeLimit;
-        DrawTimeDial(0, *this);
-        ReplayPending = false;
     }
 
+    CloseScoring();
+}
+
+// The last round is over: the board goes, the score is offered to the table,
+// "Game Over" stands for two seconds and the splash panel returns.
+void frmSumfall::GameOver() {
+    Control& message = c("lblMessage");
+    for (int i = 0; i < kFieldPlaces; ++i) {
+        c("FieldCardPicture", i).setVisible(false);
+        c("FieldSelectionRectangle", i).setVisible(false);
+    }
+    CurrentRound = 1;
+    GameInProgress = false;
+    PreviousScore = CurrentScore;
+    ShowLowerCards(false);
+    c("mnuSave").setEnabled(true);
+    c("mnuOpen").setEnabled(true);
+    c("StatusBar1").setPanel(2, "Game over");
+    c("lblCurrentTotal").setCaption("0");
+
+    if (!UpdateHighScoreTable(kTable, *this) || !loaded() || !ShowHighScore(kTable, *this, kDefaultScore))
+        MsgBox("An error occured when attmpting to access the High Score Table. Please close and restart the "
+               "game.",
+               MsgButtons::OK, MsgIcon::Critical, AppTitle);
+    if (!loaded()) return;
+
+    // The caption's Change places the label again, over the field.
+    message.setTop(height() / 2);
+    message.setCaption(kGameOver);
+    message.setForeColor(255);
+    setMousePointer(11);
+    message.setVisible(true);
+    runtime().refresh();
+    Sleep(2000);
+    message.setVisible(false);
+    setMousePointer(0);
+
+    ShowSplash(*this, true);
+    c("cmdExit").setEnabled(true);
+    c("cmdPlay").setEnabled(true);
+    // The captions only: the tool tip changes with a confirmed End Game.
+    c("cmdPlay").setCaption(kPlayCaption);
+    c("mnuPlay").setCaption(kPlayCaption);
+    for (const char* name : {"cmdTakeScore", "mnuTakeScore"}) {
+        c(name).setCaption(kReplayCaption);
+        c(name).setEnabled(true);
+    }
+    c("cmdTakeScore").setToolTipText(kReplayTip);
+    for (const char* name : {"mnuExit", "mnuPlay", "mnuTime", "mnuGoal", "mnuScoring"}) c(name).setEnabled(true);
+    c("cmdPause").setEnabled(false);
+    c("mnuPause").setEnabled(false);
+    ElapsedSeconds = TimeLimit;
+    DrawTimeDial(0, *this);
+    ReplayPending = false;
+}
+
+// How every end of a round leaves the window.
+void frmSumfall::CloseScoring() {
+    Control& score = c("lblCurrentScore");
+    Control& message = c("lblMessage");
     ElapsedSeconds = 0;
     score.setForeColor(0xFF0000);
     message.setForeColor(255);
     SelRectangle(false);
     CardTotalVisible(true);
     setMousePointer(0);
+}
+
+// A score past its 32-bit range: the platform's message, then the game ends
+// with the score made so far, as after its last round.
+void frmSumfall::EndOnError(const RuntimeError& error) {
+    ShowRunTimeError(error);
+    if (!loaded()) return;
+    c("Timer1").setEnabled(false);
+    if (PlayMusic) StopMusic();
+    DisableCommandButtons(true);
+    c("lblMessage").setVisible(false);
+    c("lblCurrentElevens").setForeColor(0xFF0000);
+    TakingScore = false;
+    UpCardUsed = false;
+    GameOver();
+    if (!loaded()) return;
+    CloseScoring();
 }
 
 // After a confirmed End Game: no score goes to the table.
@@ -402,6 +447,9 @@ bool frmSumfall::LoadSavedGame(const std::string& path) {
         if (MsgBox(message, MsgButtons::YesNo, MsgIcon::Question, "Saved Game Information") == MsgAnswer::Yes) {
             TimeLimit = static_cast<int16_t>(game.timeLimit);
             ApplyTimeSetting(*this, NumText(game.timeLimit), kTimeEntries);
+            // A limit the menu hasn't still gets its table shown, and made,
+            // so that the replay's score can go in.
+            ShowHighScore(kTable, *this, kDefaultScore);
         }
     } else {
         MsgBox(message, MsgButtons::OK, MsgIcon::Information, "Saved Game Information");

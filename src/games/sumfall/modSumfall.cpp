@@ -117,15 +117,12 @@ std::string SavedGameText(const SavedGame& game) {
 namespace {
 // Reads a text one field at a time: a field ends at a comma or a line end,
 // leading blanks are skipped, and a field in double quotes may hold commas.
+// An empty line is an empty field: the empty codes of a game saved before
+// any was played read back as such.
 class FieldReader {
 public:
     explicit FieldReader(const std::string& text) : text_(text) {}
-    bool atEnd() {
-        skipLineEnds();
-        return pos_ >= text_.size();
-    }
     bool next(std::string& field) {
-        skipLineEnds();
         if (pos_ >= text_.size()) return false;
         field.clear();
         while (pos_ < text_.size() && text_[pos_] == ' ') ++pos_;
@@ -148,9 +145,6 @@ private:
     void skipOneLineEnd() {
         if (pos_ < text_.size() && text_[pos_] == '\r') ++pos_;
         if (pos_ < text_.size() && text_[pos_] == '\n') ++pos_;
-    }
-    void skipLineEnds() {
-        while (pos_ < text_.size() && (text_[pos_] == '\r' || text_[pos_] == '\n')) ++pos_;
     }
     const std::string& text_;
     size_t pos_ = 0;
