@@ -18,6 +18,41 @@ if(NOT CARDHAVEN_QT)
   return()
 endif()
 
+# A release tree, the only kind the Debian package is made from: optimised,
+# with the compiler and linker flags dpkg-buildflags gives and all of its
+# hardening on (a position independent program, fortified library calls, a
+# strong stack protector, relocations read-only once loaded). A builder's own
+# DEB_BUILD_MAINT_OPTIONS and DEB_*FLAGS_* settings still apply on top.
+option(CARDHAVEN_RELEASE "Build a release tree for the Debian package, with Debian's build flags and hardening" OFF)
+if(CARDHAVEN_RELEASE)
+  if(CARDHAVEN_SANITIZE)
+    message(FATAL_ERROR "A release tree is built without the sanitizers")
+  endif()
+  if(NOT CMAKE_BUILD_TYPE MATCHES "^(RelWithDebInfo|Release)$")
+    message(FATAL_ERROR "A release tree is built optimised: -DCMAKE_BUILD_TYPE=RelWithDebInfo")
+  endif()
+  foreach(kind CPPFLAGS CXXFLAGS LDFLAGS)
+    execute_process(COMMAND ${CMAKE_COMMAND} -E env "DEB_BUILD_MAINT_OPTIONS=hardening=+all $ENV{DEB_BUILD_MAINT_OPTIONS}"
+                            dpkg-buildflags --get ${kind}
+                    WORKING_DIRECTORY ${PROJECT_SOURCE_DIR}
+                    OUTPUT_VARIABLE CARDHAVEN_${kind} OUTPUT_STRIP_TRAILING_WHITESPACE
+                    RESULT_VARIABLE status)
+    if(NOT status EQUAL 0)
+      message(FATAL_ERROR "dpkg-buildflags --get ${kind} failed (is dpkg-dev installed?)")
+    endif()
+  endforeach()
+  string(APPEND CMAKE_CXX_FLAGS " ${CARDHAVEN_CPPFLAGS} ${CARDHAVEN_CXXFLAGS}")
+  string(APPEND CMAKE_EXE_LINKER_FLAGS " ${CARDHAVEN_LDFLAGS}")
+  # Programs that link Qt are position independent; this makes the link a PIE
+  # link as well, whatever the compiler's default.
+  include(CheckPIESupported)
+  check_pie_supported(LANGUAGES CXX)
+  # The package holds the program alone: the test driver and the fuzzer are
+  # built only when asked for.
+  set_target_properties(cardhaven-script cardhaven_driver cardhaven-fuzz cardhaven_fuzzing
+                        PROPERTIES EXCLUDE_FROM_ALL ON)
+endif()
+
 include(GNUInstallDirs)
 set(CARDHAVEN_INSTALL_BINDIR games CACHE STRING "Folder under the prefix the program is installed into")
 set(CARDHAVEN_APP_ID games.quillmark.cardhaven)
@@ -54,6 +89,11 @@ add_custom_command(OUTPUT ${PROJECT_BINARY_DIR}/changelog.gz
 add_custom_target(cardhaven_manual ALL DEPENDS ${PROJECT_BINARY_DIR}/cardhaven.6.gz ${PROJECT_BINARY_DIR}/changelog.gz)
 
 install(TARGETS cardhaven RUNTIME DESTINATION ${CARDHAVEN_INSTALL_BINDIR})
+# The installed program carries no .comment section: it holds only the
+# versions of the compilers that built its parts.
+install(CODE "execute_process(COMMAND \"${CMAKE_OBJCOPY}\" --remove-section=.comment
+                              \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CARDHAVEN_INSTALL_BINDIR}/$<TARGET_FILE_NAME:cardhaven>\"
+                              COMMAND_ERROR_IS_FATAL ANY)")
 install(FILES ${CARDHAVEN_SOUND_FILES} DESTINATION ${CMAKE_INSTALL_DATADIR}/cardhaven)
 install(FILES ${CARDHAVEN_PACKAGING_DIR}/${CARDHAVEN_APP_ID}.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
@@ -66,7 +106,8 @@ install(FILES ${PROJECT_BINARY_DIR}/cardhaven.6.gz DESTINATION ${CMAKE_INSTALL_M
 install(FILES ${CARDHAVEN_PACKAGING_DIR}/copyright ${PROJECT_BINARY_DIR}/changelog.gz
         DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/cardhaven)
 
-# The Debian package: cmake --build BUILD --target package, or cpack in BUILD.
+# The Debian package, from a release tree (CARDHAVEN_RELEASE): cmake --build
+# BUILD --target package, or cpack in BUILD.
 # The desktop, icon and MIME caches are brought up to date by the triggers of
 # the packages that own them, so the package needs no scripts of its own.
 set(CPACK_GENERATOR DEB)
@@ -96,6 +137,10 @@ set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, libfluidsynth3, timgm6mb-soun
 # without X.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, qt6-wayland")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+# Any other tree refuses to make the package, once its files are staged.
+if(NOT CARDHAVEN_RELEASE)
+  set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/NotARelease.cmake)
+endif()
 include(CPack)
 
 if(CARDHAVEN_TESTS)
@@ -105,10 +150,18 @@ if(CARDHAVEN_TESTS)
                    $<TARGET_FILE:cardhaven-script> ${PROJECT_VERSION})
   add_test(NAME packaging.metadata
            COMMAND ${CARDHAVEN_PACKAGING_TESTS}/metadata.sh ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})
-  # The package is built once into package-test/ and installed from there.
+  # The package comes from a release tree of its own, release/ (configured
+  # once, then rebuilt as the sources change), is made once into package-test/
+  # and checked, installed and linted from there. The build uses every core.
   add_test(NAME packaging.deb
-           COMMAND ${CARDHAVEN_PACKAGING_TESTS}/package.sh ${PROJECT_BINARY_DIR} ${PROJECT_BINARY_DIR}/package-test)
-  set_tests_properties(packaging.deb PROPERTIES FIXTURES_SETUP cardhaven_deb)
+           COMMAND ${CARDHAVEN_PACKAGING_TESTS}/package.sh ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/release
+                   ${PROJECT_BINARY_DIR}/package-test "${CMAKE_CXX_COMPILER_LAUNCHER}")
+  cmake_host_system_information(RESULT CARDHAVEN_CORES QUERY NUMBER_OF_LOGICAL_CORES)
+  set_tests_properties(packaging.deb PROPERTIES FIXTURES_SETUP cardhaven_deb TIMEOUT 2700
+                       PROCESSORS ${CARDHAVEN_CORES})
+  add_test(NAME packaging.lintian
+           COMMAND ${CARDHAVEN_PACKAGING_TESTS}/lintian.sh ${PROJECT_BINARY_DIR}/package-test)
+  set_tests_properties(packaging.lintian PROPERTIES FIXTURES_REQUIRED cardhaven_deb)
   add_test(NAME packaging.installed
            COMMAND ${CARDHAVEN_PACKAGING_TESTS}/installed.sh ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/package-test)
   set_tests_properties(packaging.installed PROPERTIES FIXTURES_REQUIRED cardhaven_deb RESOURCE_LOCK xvfb)

@@ -6,7 +6,7 @@ set -euo pipefail
 CARDHAVEN_PACKAGES=(cmake ninja-build g++ libgtest-dev pkg-config
     qt6-base-dev qt6-base-dev-tools qt6-multimedia-dev libgl-dev libfluidsynth-dev timgm6mb-soundfont
     fonts-dejavu-core xvfb xauth imagemagick xdotool pulseaudio
-    dpkg-dev appstream desktop-file-utils shared-mime-info groff-base)
+    dpkg-dev lintian appstream desktop-file-utils shared-mime-info groff-base)
 
 cardhaven_install() {
     local missing=()

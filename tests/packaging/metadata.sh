@@ -2,9 +2,10 @@
 # tests/packaging/metadata.sh SOURCEDIR BUILDDIR
 # The files that present the program to a desktop and a distribution: the
 # .desktop file and the AppStream metainfo pass their validators, name the
-# same saved game type as the MIME description, the newest release in the
-# metainfo and in the package's changelog is the program's version, a saved game written by Sumfall is recognised by
-# its name and its first bytes, and the manual page formats cleanly and tells
+# same saved game type as the MIME description, the metainfo's releases are
+# the changelog's entries and the newest is the program's version, the
+# licences are named, a saved game written by Sumfall is recognised by its
+# name and its first bytes, and the manual page formats cleanly and tells
 # of every option --help lists.
 set -u
 src=$1
@@ -23,6 +24,16 @@ desktop-file-validate "$desktop" >"$work/out" 2>&1 || fail "desktop-file-validat
 appstreamcli validate --no-net --no-color "$metainfo" >"$work/out" 2>&1 || fail "appstreamcli validate: $(cat "$work/out")"
 grep -E '^[EW]:' "$work/out" && fail "appstreamcli has warnings"
 
+# The licence: the full text as Debian ships it, the metainfo's two licences,
+# and a copyright file that puts every file under the GPL but the metainfo,
+# which is CC0 like the metadata it holds.
+cmp -s "$src/COPYING" /usr/share/common-licenses/GPL-3 || fail "COPYING is not the text of the GPL, version 3"
+grep -qx '  <project_license>GPL-3.0-or-later</project_license>' "$metainfo" || fail "the metainfo's project licence"
+grep -qx '  <metadata_license>CC0-1.0</metadata_license>' "$metainfo" || fail "the metainfo's metadata licence"
+awk '/^Files:/ {files=$0} /^License:/ && files {print files " = " $2; files=""}' "$src/packaging/copyright" >"$work/licences"
+printf '%s\n' 'Files: * = GPL-3.0-or-later' "Files: packaging/$id.metainfo.xml.in = CC0-1.0" |
+    cmp -s - "$work/licences" || fail "the copyright file's licences: $(cat "$work/licences")"
+
 # One MIME type, named alike in the three files.
 type=$(sed -n 's/.*<mime-type type="\([^"]*\)".*/\1/p' "$mime")
 [ -n "$type" ] || fail "no MIME type in $mime"
@@ -31,11 +42,17 @@ grep -q "<mediatype>$type</mediatype>" "$metainfo" || fail "the metainfo does no
 grep -q "<launchable type=\"desktop-id\">$id.desktop</launchable>" "$metainfo" || fail "the metainfo launches another desktop file"
 grep -qx 'Exec=cardhaven %f' "$desktop" || fail "the desktop file does not hand the file to the program"
 
+# The releases of the metainfo are the entries of the changelog, version and
+# date, newest first, and the newest is the program's version.
 version=$("$build/cardhaven-script" --version | sed -n 's/^cardhaven-script //p')
-newest=$(sed -n 's/.*<release version="\([^"]*\)".*/\1/p' "$metainfo" | head -n 1)
-[ "$newest" = "$version" ] || fail "the newest release in the metainfo is '$newest', the program is '$version'"
 logged=$(dpkg-parsechangelog -l "$src/packaging/changelog" -S Version 2>&1)
 [ "$logged" = "$version" ] || fail "the newest entry of packaging/changelog is '$logged', the program is '$version'"
+dpkg-parsechangelog -l "$src/packaging/changelog" --all --format rfc822 |
+    awk '/^Version: / {v=$2} /^Date: / {print v, $3, $4, $5}' |
+    while read -r v day month year; do echo "$v $(date -u -d "$day $month $year" +%F)"; done >"$work/logged"
+sed -n 's/.*<release version="\([^"]*\)" date="\([^"]*\)".*/\1 \2/p' "$metainfo" >"$work/released"
+[ -s "$work/logged" ] && cmp -s "$work/logged" "$work/released" ||
+    fail "the metainfo's releases are not the changelog's entries:$(diff "$work/logged" "$work/released" | sed 's/^/ /')"
 for shot in $(sed -n 's#.*<image>.*/screenshots/\([^<]*\)</image>.*#\1#p' "$metainfo"); do
     [ -f "$src/docs/screenshots/$shot" ] || fail "the metainfo shows $shot, which docs/screenshots lacks"
 done
