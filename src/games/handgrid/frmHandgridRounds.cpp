@@ -238,12 +238,12 @@ void frmHandgrid::GameOver() {
 // count of a round: the platform's overflow message, then the board is put
 // away as at the end of a round and the game ends with the score made so far.
 void frmHandgrid::EndOnError(const RuntimeError& error) {
+    c("Timer1").setEnabled(false);  // the clock stands behind the message
     ShowRunTimeError(error);
     if (!loaded()) return;
     TakingScore = true;
     setMousePointer(11);
     if (PlayMusic) StopMusic();
-    c("Timer1").setEnabled(false);
     ShowCards(false);
     ShowControls(false, true);
     c("lblScoring").setVisible(false);

@@ -357,9 +357,9 @@ void frmSumfall::CloseScoring() {
 // A score past its 32-bit range: the platform's message, then the game ends
 // with the score made so far, as after its last round.
 void frmSumfall::EndOnError(const RuntimeError& error) {
+    c("Timer1").setEnabled(false);  // the clock stands behind the message
     ShowRunTimeError(error);
     if (!loaded()) return;
-    c("Timer1").setEnabled(false);
     if (PlayMusic) StopMusic();
     DisableCommandButtons(true);
     c("lblMessage").setVisible(false);
