@@ -79,7 +79,10 @@ private:
     void cmdTakeScore_Click();
     void Timer1_Timer();
     void EndRound();
+    void GameOver();
+    void EndOnError(const RuntimeError& error);
     void RemoveLeftOverCards();
+    void RestoreFlushLabel();
     void InitRound();
     void ResetDial();
     void CenterScoringLabel();
