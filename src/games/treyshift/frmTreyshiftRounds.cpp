@@ -126,15 +126,23 @@ void frmTreyshift::Timer1_Timer() {
     setMousePointer(0);
 }
 
+// One round end at a time, whatever order the waiting events are served in:
+// none starts while a round is being scored, and a click whose wait let the
+// clock's last tick end the round asks for nothing more.
 void frmTreyshift::cmdTakeScore_Click() {
+    if (EndingRound) return;
+    const long roundEnds = RoundEnds;
     DoEvents();
-    if (!loaded()) return;
+    if (!loaded() || EndingRound || RoundEnds != roundEnds) return;
     TakingScore = true;
+    EndingRound = true;
+    RoundEnds += 1;
     try {
         EndRound();
     } catch (const RuntimeError& error) {
         EndOnError(error);
     }
+    EndingRound = false;
     if (!loaded()) return;
     DoEvents();
 }
