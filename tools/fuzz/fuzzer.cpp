@@ -155,6 +155,7 @@ FuzzResult Fuzzer::result() const {
 std::string Fuzzer::check() {
     if (gameWasInProgress_ && !GameInProgress && runtime_.loaded(options_.game)) ++result_.gamesCompleted;
     gameWasInProgress_ = GameInProgress;
+    result_.bestScore = std::max<long long>(result_.bestScore, CurrentScore);
     // What was heard and shown is read off, so a long run keeps no record of it.
     for (const std::string& sound : platform_.takeSounds()) ++result_.sounds[sound];
     if (Form* game = runtime_.loaded(options_.game))

@@ -50,6 +50,7 @@ struct FuzzOptions {
 struct FuzzResult {
     long long events = 0;
     long long gamesCompleted = 0;  // Play to Game Over
+    long long bestScore = 0;       // the highest CurrentScore seen
     int64_t virtualMs = 0;
     std::string fault;  // empty when every check held
     std::map<std::string, long long> messageBoxes;  // how often each text was shown

@@ -79,7 +79,8 @@ int main(int argc, char** argv) {
                          "(default cardhaven-fuzz-GAME-SEED.script) replays it: cardhaven-script --data DIR FILE.\n"
                          "--keep-trail keeps it after a clean run too, ending in expectations of the\n"
                          "state the run reached, so that a replay checks itself. --stats counts the\n"
-                         "message boxes shown, by text, the sounds played and the game's messages.\n"
+                         "message boxes shown, by text, the sounds played, the game's messages and the\n"
+                         "highest score.\n"
                          "--edges writes values at the edges of 16- and 32-bit numbers (the bounds, one\n"
                          "past, negative, zero) into every numeric section of the settings file each\n"
                          "time the game opens again, and into the boxes of its scoring dialog.\n"
@@ -139,6 +140,7 @@ int main(int argc, char** argv) {
     std::cout << gameName << " seed " << options.seed << ": " << result.events << " events, " << result.gamesCompleted
               << " games completed, " << result.virtualMs / 1000 << " s of virtual time, " << seconds << " s\n";
     if (stats) {
+        std::cout << "  highest score " << result.bestScore << "\n";
         for (const auto& [text, count] : result.messageBoxes) std::cout << "  " << count << "  " << text << "\n";
         for (const auto& [sound, count] : result.sounds) std::cout << "  " << count << "  " << sound << "\n";
         for (const auto& [text, count] : result.messages) std::cout << "  " << count << "  lblMessage " << text << "\n";
