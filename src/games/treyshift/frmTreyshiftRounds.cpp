@@ -154,7 +154,10 @@ void frmTreyshift::EndOnError(const RuntimeError& error) {
     if (PlayMusic) StopMusic();
     ShowRunTimeError(error);
     if (!loaded()) return;
+    // The removal of left over cards may have stopped with a card outlined.
     RestoreFlushLabel();
+    for (int i = 0; i < kFieldSlots; ++i) c("PlayCardSelection", i).setVisible(false);
+    for (int i = 0; i < kTempSlots; ++i) c("TempCardSelection", i).setVisible(false);
     for (const char* name : {"lblMessage", "lblScoring", "ScoringLabelOutline"}) c(name).setVisible(false);
     c("lblCurrentScore").setForeColor(0xFF0000);
     GameOver();
