@@ -118,10 +118,31 @@ std::string HandgridMove(const Form& game, std::mt19937_64& random) {
     return best < 0 ? "" : Click(game, "PlayCards(" + std::to_string(best) + ")");
 }
 
+// ---- Fivestack: lay the next card where it brings a column nearest 21
+// without a bust (an ace as 11 where it fits), and pass when no column takes
+// it, so that the five columns reach the top of the table.
+std::string FivestackMove(const Form& game, std::mt19937_64& random) {
+    const long long position = Number(game, "DeckPosition");
+    if (position < 1 || position >= static_cast<long long>(Deck.size())) return "";
+    const int value = std::min(CardValue(Deck[static_cast<size_t>(position)]), 10);
+    int best = -1, bestTotal = -1;
+    for (int column = 0; column < 5; ++column) {
+        const Control* label = game.find("ColumnTotal", column);
+        if (!label || Number(game, "ColumnCards", column) >= 5) continue;
+        const int total = static_cast<int>(Val(label->caption()));
+        const int reached = total + (value == 1 && total + 11 <= 21 ? 11 : value);
+        if (reached <= 21 && reached > bestTotal) best = column, bestTotal = reached;
+    }
+    if (best >= 0) return Click(game, "cmdHit(" + std::to_string(best) + ")");
+    if (Number(game, "PassesLeft") != 0) return Click(game, "cmdPass");
+    return Click(game, "cmdHit(" + std::to_string(random() % 5) + ")");
+}
+
 }  // namespace
 
 std::string ScoringMove(const Form& game, std::mt19937_64& random) {
     if (game.name() == "frmTreyshift") return TreyshiftMove(game, random);
+    if (game.name() == "frmFivestack") return FivestackMove(game, random);
     if (game.name() == "frmHandgrid") return HandgridMove(game, random);
     return "";
 }
