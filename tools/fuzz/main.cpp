@@ -85,7 +85,7 @@ int main(int argc, char** argv) {
                          "past, negative, zero) into every numeric section of the settings file each\n"
                          "time the game opens again, and into the boxes of its scoring dialog.\n"
                          "--scoring plays toward big scores: favourable decks, and the moves the rules\n"
-                         "score (Treyshift, Handgrid, Fivestack).\n";
+                         "score (Treyshift, Handgrid, Fivestack, Spirehold).\n";
             return 0;
         } else if (arg == "--game") gameName = value();
         else if (arg == "--seed") options.seed = std::strtoull(value().c_str(), nullptr, 10);

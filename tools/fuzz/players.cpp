@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "games/spirehold/modSpirehold.h"
 #include "games/treyshift/modTreyshift.h"
 #include "suite/cards.h"
 #include "window/basic.h"
@@ -138,9 +139,26 @@ std::string FivestackMove(const Form& game, std::mt19937_64& random) {
     return Click(game, "cmdHit(" + std::to_string(random() % 5) + ")");
 }
 
+// ---- Spirehold: take any face-up tower card one rank from the up card, so
+// that runs grow long; turn the stack only when none is there.
+std::string SpireholdMove(const Form& game, std::mt19937_64& random) {
+    const int up = static_cast<int>(Number(game, "UpCardValue"));
+    const int back = ImageList2().indexOf("BACK");
+    std::vector<int> legal;
+    for (int i = 0; i < spirehold::kTowerCards; ++i) {
+        const Control* card = game.find("UpCardImage", i);
+        if (!card || !card->visible() || !card->enabled() || card->picture() == 0 || card->picture() == back) continue;
+        if (spirehold::IsNeighbour(Rank(Text(game, "DeckCards", i)), up)) legal.push_back(i);
+    }
+    if (!legal.empty()) return Click(game, "UpCardImage(" + std::to_string(legal[random() % legal.size()]) + ")");
+    if (Number(game, "CardsRemaining") > 0) return Click(game, "CardStackPicture");
+    return Click(game, "cmdTakeScore");
+}
+
 }  // namespace
 
 std::string ScoringMove(const Form& game, std::mt19937_64& random) {
+    if (game.name() == "frmSpirehold") return SpireholdMove(game, random);
     if (game.name() == "frmTreyshift") return TreyshiftMove(game, random);
     if (game.name() == "frmFivestack") return FivestackMove(game, random);
     if (game.name() == "frmHandgrid") return HandgridMove(game, random);
