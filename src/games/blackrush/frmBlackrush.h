@@ -81,6 +81,8 @@ private:
     void EndGameQuestion();
     void PauseGame();
     void cmdTakeScore_Click();
+    void TakeScore();
+    void EndOnError(const RuntimeError& error);
     void NextRound();
     void Timer1_Timer();
     void Timer3_Timer();

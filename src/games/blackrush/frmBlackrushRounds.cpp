@@ -170,9 +170,32 @@ void frmBlackrush::Timer5_Timer() {
 
 // ---- The end of a round -------------------------------------------------------------------
 
-// Cards used, then the 21s times the bonus as it stands; the clock runs on.
 void frmBlackrush::cmdTakeScore_Click() {
     if (TakingScore) return;
+    try {
+        TakeScore();
+    } catch (const RuntimeError& error) {
+        EndOnError(error);
+    }
+}
+
+// A count that carries the score past its 32-bit range ("Overflow") is told
+// with the platform's message; the game then ends as after its last round,
+// with the score made so far offered to the table.
+void frmBlackrush::EndOnError(const RuntimeError& error) {
+    ShowRunTimeError(error);
+    if (!loaded()) return;
+    for (const char* name : {"lblCardsUsed", "lblCardsUsedCount", "lbl21Bonus", "lblTwentyOnes", "lbl21s", "lblBonus"})
+        c(name).setForeColor(kBlue);
+    for (const char* name : {"lblRoundScore", "lblRoundScoreCount"}) c(name).setVisible(false);
+    CurrentRound = 5;
+    NextRound();
+    if (!loaded()) return;
+    setMousePointer(0);
+}
+
+// Cards used, then the 21s times the bonus as it stands; the clock runs on.
+void frmBlackrush::TakeScore() {
     TakingScore = true;
     setMousePointer(11);
     Control& cardsUsed = c("lblCardsUsed");

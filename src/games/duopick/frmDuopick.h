@@ -71,6 +71,7 @@ private:
     void ResumeGame();
     void cmdTakeScore_Click();
     void TakeScore();
+    void EndOnError(const RuntimeError& error);
     void GameOver();
     void Timer1_Timer();
     void ShowScore();

@@ -136,7 +136,23 @@ void frmDuopick::Timer1_Timer() {
 // ---- The end of a round ---------------------------------------------------------------
 
 void frmDuopick::cmdTakeScore_Click() {
-    if (!TakingScore) TakeScore();
+    if (TakingScore) return;
+    try {
+        TakeScore();
+    } catch (const RuntimeError& error) {
+        EndOnError(error);
+    }
+}
+
+// A bonus that carries the score past its 32-bit range ("Overflow") is told
+// with the platform's message, and the game ends there with the score made
+// so far, which is offered to the table.
+void frmDuopick::EndOnError(const RuntimeError& error) {
+    ShowRunTimeError(error);
+    if (!loaded()) return;
+    c("lblScoring").setVisible(false);
+    c("lblCurrentScore").setForeColor(0xFF0000);
+    GameOver();
 }
 
 // Nothing is paid during play: the round pays here, the completion bonus,
