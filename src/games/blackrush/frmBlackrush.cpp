@@ -228,7 +228,15 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
     BindPlayAndPause(*this, [this](bool) { cmdPlay_Click(); }, [this] { PauseGame(); });
     on("cmdTakeScore", Ev::Click, [this](EventArgs&) { cmdTakeScore_Click(); });
     on("mnuTakeScore", Ev::Click, [this](EventArgs&) { mnuTakeScore_Click(); });
-    on("cmdHit", Ev::Click, [this](EventArgs& e) { cmdHit_Click(e.index); });
+    // A five card gimme, a bust or the deck's completion may carry the score
+    // past its range, as Take Score may.
+    on("cmdHit", Ev::Click, [this](EventArgs& e) {
+        try {
+            cmdHit_Click(e.index);
+        } catch (const RuntimeError& error) {
+            EndOnError(error);
+        }
+    });
     on("cmdPass", Ev::Click, [this](EventArgs&) { cmdPass_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
     BindSharedHandlers(*this, Splash, SplashFace::RandomFace, "ScoringLabelInfo");

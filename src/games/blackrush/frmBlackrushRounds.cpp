@@ -179,7 +179,7 @@ void frmBlackrush::cmdTakeScore_Click() {
     }
 }
 
-// A count that carries the score past its 32-bit range ("Overflow") is told
+// A step that carries the score past its 32-bit range ("Overflow") is told
 // with the platform's message; the game then ends as after its last round,
 // with the score made so far offered to the table.
 void frmBlackrush::EndOnError(const RuntimeError& error) {
