@@ -20,7 +20,13 @@ printf '%-10s %9s %10s %8s %9s %12s\n' game events events/s games games/s virtua
 status=0
 for game in sumfall fivestack blackrush spirehold duopick handgrid treyshift; do
     start=$(date +%s.%N)
-    if ! out=$(./cardhaven-fuzz --game "$game" --seed "$seed" --events "$events" --data "$build/data" "$@"); then
+    if out=$(./cardhaven-fuzz --game "$game" --seed "$seed" --events "$events" --data "$build/data" "$@"); then
+        :
+    elif code=$?; [ $code -gt 128 ]; then
+        echo "$game: FAULT crash (signal $((code - 128))); trail kept: $build/cardhaven-fuzz-$game-$seed.script"
+        status=1
+        continue
+    else
         echo "$out" | grep -v '^  '
         status=1
     fi
