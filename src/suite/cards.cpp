@@ -49,9 +49,11 @@ void Reset(uint64_t seed) {
 void Queue(std::vector<int> values) { g_queued.insert(g_queued.end(), values.begin(), values.end()); }
 
 void StackNextShuffle(std::vector<std::string> order) {
+    g_stacked = !order.empty();
     g_stack = std::move(order);
-    g_stacked = true;
 }
+
+bool StackPending() { return g_stacked; }
 
 void SetFailureReporter(std::function<void(const std::string&)> report) { g_report = std::move(report); }
 

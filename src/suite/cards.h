@@ -34,8 +34,11 @@ namespace randomness {
 void Reset(uint64_t seed = 0x5EED);
 // The next calls of RandomInteger return these values, whoever makes them.
 void Queue(std::vector<int> values);
-// The next ShuffleDeck leaves the deck in this order (codes compared trimmed).
+// The next ShuffleDeck leaves the deck in this order (codes compared trimmed);
+// an empty order takes back one not yet used.
 void StackNextShuffle(std::vector<std::string> order);
+// True while a stacked order waits for the next ShuffleDeck.
+bool StackPending();
 // Where a value out of a call's bounds or an impossible stack is reported.
 void SetFailureReporter(std::function<void(const std::string&)> report);
 // Draws made so far by RandomInteger, for tests.

@@ -115,6 +115,9 @@ void DrawTimeDial(int angle, Form& window) {
 void CountTimeBonus(Form& window, long long bonusPerSecond, const TimeBonusOptions& options) {
     const long long stepPerSecond = bonusPerSecond * options.factor;
     long long left = static_cast<long long>(TimeLimit - ElapsedSeconds) * stepPerSecond;
+    // The total is a 32-bit number: one that can't be held raises "Overflow"
+    // before anything is shown.
+    if (left > INT32_MAX || left < INT32_MIN) throw RuntimeError(kErrOverflow, "Overflow");
 
     ShowMessage(window, "Speed Bonus!");
     SetForeColor(window, "lblCurrentScore", 0xFFFF00);

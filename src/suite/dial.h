@@ -52,7 +52,8 @@ struct TimeBonusOptions {
 // lblScoring under "Speed Bonus!" for 2000 ms, then, with CountDownScore,
 // counted into the score a second at a time (the dial runs on to the end,
 // "\Snap.wav", 75 ms each), whatever is left added at the end. With no
-// seconds left it shows 0 and counts nothing.
+// seconds left it shows 0 and counts nothing. A total beyond 32 bits raises
+// "Overflow" (RuntimeError 6) before anything is shown.
 void CountTimeBonus(Form& window, long long bonusPerSecond, const TimeBonusOptions& options = {});
 
 // What varies between the games in a named bonus.

@@ -2,8 +2,9 @@
 // made from the files the game itself writes (cut at every byte, LF line
 // ends, random bytes, 10 MB, a 1 MB line, numbers beyond 32 bits and below
 // zero) and the disk's faults (a folder in the file's place, a file that can't
-// be read, a home folder that can't be written). Each window must open, play
-// and close; a file it could not read is never written over.
+// be read, a home folder that can't be written), and each numeric section of
+// a settings file at the edges of the 16- and 32-bit types. Each window must
+// open, play and close; a file it could not read is never written over.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -125,6 +126,20 @@ public:
     }
     // Time passes a second at a time until the game is over, `seconds` at
     // most; then "Game Over" stands its two seconds.
+    // In a game with Take Score, a whole game whose every round is taken at
+    // once, so that each bonus is paid with the seconds left.
+    void takeScores(const Game& g) {
+        const auto canTake = [this, &g](bool inGame) {
+            return [this, &g, inGame] {
+                const Form* f = runtime_.loaded(g.form);
+                const Control* take = f ? f->find("cmdTakeScore") : nullptr;
+                return take && (!inGame || (GameInProgress && take->enabled()));
+            };
+        };
+        clickIf(canTake(false), g.form, "cmdPlay");
+        for (int round = 0; round < 5; ++round) clickIf(canTake(true), g.form, "cmdTakeScore");
+        toTheEnd(1000);
+    }
     void toTheEnd(int seconds, bool mustEnd = true) {
         plan_.emplace_back(Until{[] { return !GameInProgress; }, seconds, mustEnd});
         plan_.emplace_back(Until{[] { return false; }, 2, false});
@@ -281,9 +296,36 @@ std::vector<Damage> Corpus(const std::string& valid, unsigned seed) {
     while (big.size() < 10'000'000) big += "line " + std::to_string(big.size()) + " of a file grown past all sense\r\n";
     corpus.push_back({"10 MB", big});
     corpus.push_back({"1 MB line", valid + std::string(1'000'000, 'x') + "\r\n" + valid});
-    for (const char* number : {"4294967296", "99999999999999999999", "-2147483649", "-1", "-32769", "0"})
+    for (const char* number : {"4294967296", "99999999999999999999", "2147483647", "-2147483648", "-2147483649", "-1",
+                               "32768", "-32769", "0"})
         corpus.push_back({std::string("numbers ") + number, WithNumbers(valid, number)});
     return corpus;
+}
+
+// The file with the value of one numeric section at a time set to each value
+// at the edge of the 16- and 32-bit types: the bounds, one past, -1 and 0.
+std::vector<Damage> EdgeCases(const std::string& valid) {
+    std::vector<std::string> lines;
+    for (size_t start = 0; start < valid.size();) {
+        size_t end = valid.find("\r\n", start);
+        end = end == std::string::npos ? valid.size() : end;
+        lines.push_back(valid.substr(start, end - start));
+        start = end + 2;
+    }
+    std::vector<Damage> cases;
+    for (size_t i = 1; i < lines.size(); ++i) {
+        const std::string& value = lines[i];
+        if (lines[i - 1].empty() || lines[i - 1].front() != '[' || value.empty() ||
+            value.find_first_not_of("-0123456789") != std::string::npos)
+            continue;
+        for (const char* edge : {"2147483647", "2147483648", "-2147483648", "-2147483649", "32767", "32768", "-32768",
+                                 "-32769", "-1", "0"}) {
+            std::string text;
+            for (size_t k = 0; k < lines.size(); ++k) text += (k == i ? std::string(edge) : lines[k]) + "\r\n";
+            cases.push_back({lines[i - 1] + " " + edge, text});
+        }
+    }
+    return cases;
 }
 
 // A fresh home folder, in memory where there is such a folder: a sync there
@@ -366,6 +408,37 @@ TEST_P(DamagedFiles, SettingsFileOpensAndIsWrittenWhole) {
             // tell nothing else either).
             EXPECT_EQ(boxes.size(), 1u) << d.what << ": " << ::testing::PrintToString(boxes);
             EXPECT_EQ(Sections(ReadText(home / g.settings)), Sections(settings)) << d.what;
+        });
+    }
+    s.run();
+}
+
+// Every numeric section of the settings file at each edge value, one section
+// at a time: the window opens, a game whose rounds are all taken at once
+// comes to its end, and the window closes. A score carried past its range is
+// told as the platform's overflow; nothing else shows a message.
+class EdgeValues : public DamagedFiles {};
+
+TEST_P(EdgeValues, EachSectionIsPlayedThrough) {
+    const Game& g = GetParam();
+    std::string settings, table;
+    Fresh(settings, table);
+    const std::vector<Damage> cases = EdgeCases(settings);
+    ASSERT_GE(cases.size(), 40u);  // "[Deck]", "[State]", "[Width]" and "[Height]" at least
+    Session s(home);
+    for (const Damage& d : cases) {
+        s.then([&, this] {
+            s.what = d.what;
+            WriteText(home / g.settings, d.text);
+        });
+        s.open(g);
+        s.takeScores(g);
+        s.close(g);
+        s.then([&] {
+            EXPECT_TRUE(s.shown("frmSelect")) << d.what;
+            std::vector<std::string> boxes = s.boxes();
+            std::erase(boxes, "Run-time error '6':\r\n\r\nOverflow");
+            EXPECT_EQ(boxes.size(), 1u) << d.what << ": " << ::testing::PrintToString(boxes);
         });
     }
     s.run();
@@ -537,6 +610,7 @@ TEST_P(DamagedFiles, UnreadableTablesAndAReadOnlyHomeAreToldAtTheEnd) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryGame, DamagedFiles, ::testing::ValuesIn(kGames), GameName);
+INSTANTIATE_TEST_SUITE_P(EveryGame, EdgeValues, ::testing::ValuesIn(kGames), GameName);
 
 // Sumfall's saved games: a file the game saved, then damaged. Opening it
 // either refuses it with the message, leaving the dialog up, or tells whose

@@ -9,6 +9,8 @@
 #include "suite/cards.h"
 #include "suite/common.h"
 #include "suite/suite.h"
+#include "suite/files.h"
+#include "tools/fuzz/players.h"
 #include "tools/script/script.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -78,6 +80,15 @@ std::string Quoted(const std::string& text) {
     return out + "\"";
 }
 
+// A pending "click F.C" or "type F.C ..." still has its window: the events
+// before it may have closed that window.
+bool PendingFormLoaded(Runtime& runtime, const std::string& line) {
+    const size_t space = line.find(' ');
+    const size_t dot = line.find('.', space);
+    if (space == std::string::npos || dot == std::string::npos) return true;
+    return runtime.loaded(line.substr(space + 1, dot - space - 1)) != nullptr;
+}
+
 bool AnyControl(const Control& c) {
     switch (c.kind()) {
         case ControlKind::Timer:
@@ -126,7 +137,7 @@ Fuzzer::Fuzzer(Runtime& runtime, WatchedPlatform& platform, const FuzzOptions& o
       options_(options),
       random_(options.seed),
       home_(options.home),
-      steady_(options.seed % 3 == 2) {}
+      steady_(options.seed % 3 == 2 || options.scoring) {}
 
 int Fuzzer::uniform(int low, int high) { return std::uniform_int_distribution<int>(low, high)(random_); }
 bool Fuzzer::chance(double p) { return std::uniform_real_distribution<double>(0, 1)(random_) < p; }
@@ -144,6 +155,7 @@ FuzzResult Fuzzer::result() const {
 std::string Fuzzer::check() {
     if (gameWasInProgress_ && !GameInProgress && runtime_.loaded(options_.game)) ++result_.gamesCompleted;
     gameWasInProgress_ = GameInProgress;
+    result_.bestScore = std::max<long long>(result_.bestScore, CurrentScore);
     // What was heard and shown is read off, so a long run keeps no record of it.
     for (const std::string& sound : platform_.takeSounds()) ++result_.sounds[sound];
     if (Form* game = runtime_.loaded(options_.game))
@@ -200,7 +212,21 @@ std::string Fuzzer::nextLine() {
     } else if (result_.events == 0) {
         line = "click frmSelect." + options_.selectorButton;
         lastWasStep_ = true;
+    } else if (options_.scoring && randomness::StackPending() != OnlyGameOpen()) {
+        // An order waits only while the game's window is the one open: the
+        // selector's ring and the other games shuffle decks of their own.
+        if (randomness::StackPending()) {
+            line = "stack none";
+        } else {
+            line = "stack";
+            for (const std::string& card : GoodDeck(random_)) line += " " + card;
+        }
+    } else if (!pending_.empty() && PendingFormLoaded(runtime_, pending_.front())) {
+        line = pending_.front();
+        pending_.pop_front();
+        lastWasStep_ = true;
     } else {
+        pending_.clear();
         line = event();
         lastWasStep_ = true;
         if (line.rfind("advance ", 0) == 0) busyUntil = platform_.now() + std::stoll(line.substr(8));
@@ -265,8 +291,46 @@ std::string Fuzzer::lowTable() {
     return text + "\r\n";
 }
 
+// The settings file as the window last wrote it, with values at the edges in
+// its numeric sections; empty before the window first wrote it.
+std::string Fuzzer::edgeSettings() {
+    std::string text;
+    if (options_.settingsName.empty() || !ReadWholeFile(options_.home + "/" + options_.settingsName, text)) return "";
+    return "file " + options_.settingsName + " " + Quoted(EdgeSettings(text, 0.5, random_));
+}
+
+// Every box of a dialog: an edge value, one for all boxes or each its own,
+// or the box left as it is; then OK.
+std::string Fuzzer::fillDialog(Form& dialog) {
+    const std::vector<std::string>& values = EdgeValues();
+    const auto pick = [&] { return values[static_cast<size_t>(uniform(0, static_cast<int>(values.size()) - 1))]; };
+    const std::string shared = chance(0.3) ? pick() : "";
+    for (const auto& owned : dialog.controls()) {
+        if (owned->kind() != ControlKind::TextBox || chance(0.2)) continue;
+        pending_.push_back("type " + ref(*owned) + " " + Quoted(shared.empty() ? pick() : shared));
+    }
+    if (const Control* ok = dialog.find("cmdOK")) pending_.push_back("click " + ref(*ok));
+    if (pending_.empty()) return advance();
+    std::string first = pending_.front();
+    pending_.pop_front();
+    return first;
+}
+
+// The game's window is open, and no other game's; Sumfall's decks are not
+// of 52 cards, so no order is stacked for it.
+bool Fuzzer::OnlyGameOpen() const {
+    if (options_.game == "frmSumfall") return false;
+    const Form* game = runtime_.loaded(options_.game);
+    if (!game || !game->visible()) return false;
+    for (const Form* form : runtime_.loadedForms())
+        if (form != game && form->hasVariable("CurrentRound")) return false;
+    return true;
+}
+
 std::string Fuzzer::advance() {
     int ms;
+    // Playing for the score leaves the clock little time.
+    if (options_.scoring && GameInProgress && chance(0.95)) return "advance " + std::to_string(uniform(1, 400));
     const int roll = uniform(1, 100);
     if (roll <= 40) ms = uniform(1, 300);
     else if (roll <= 70) ms = uniform(300, 3000);
@@ -279,7 +343,7 @@ std::string Fuzzer::advance() {
 std::string Fuzzer::text(bool fileName) {
     static const std::vector<std::string> kWords = {
         "", "0", "1", "-1", "7", "10", "250", "5000", "32767", "32768", "-32768", "-32769", "65536", "2147483647",
-        "2147483648", "-2147483649", "99999999999", "1e308", "1.5", "0x10", " 12 ", "&H7FFF", "Ann", "Zoë", "名前",
+        "2147483648", "-2147483648", "-2147483649", "4294967296", "99999999999", "1e308", "1.5", "0x10", " 12 ", "&H7FFF", "Ann", "Zoë", "名前",
         "a,b", ",", "\"", "\t", "\x01", "\x7f", "line\r\nbreak", "Quillmark"};
     static const std::string kNameChars = "abcXYZ019 _-";
     std::string out;
@@ -337,7 +401,26 @@ std::string Fuzzer::event() {
     Form* form = pickForm();
     if (!form) return advance();
     // Back at the selector: mostly open the game again.
-    if (form->name() == "frmSelect" && form->visible() && chance(0.8)) return "click frmSelect." + options_.selectorButton;
+    if (form->name() == "frmSelect" && form->visible() && chance(0.8)) {
+        const std::string open = "click frmSelect." + options_.selectorButton;
+        if (!options_.edges) return open;
+        if (std::string file = edgeSettings(); !file.empty()) {
+            pending_.push_back(open);
+            return file;
+        }
+        return open;
+    }
+    Form* game = runtime_.loaded(options_.game);
+    const bool gameOnTop = game && form == game && !runtime_.topModal();
+    if (options_.scoring && gameOnTop && GameInProgress && game->c("cmdPlay").enabled() && chance(0.85))
+        if (std::string move = ScoringMove(*game, random_); !move.empty()) return move;
+    if (options_.edges && form->modal() && form->name().find("Custom") != std::string::npos && chance(0.3))
+        return fillDialog(*form);
+    // Between games the scoring dialog is opened often, so that its boxes
+    // take values at the edges.
+    if (options_.edges && gameOnTop && !GameInProgress && chance(0.03))
+        if (const Control* custom = game->find("mnuCustom"); custom && runtime_.accepts(*game, custom))
+            return "click " + game->name() + ".mnuCustom";
 
     const int roll = uniform(1, 100);
     auto on = [&](bool (*fits)(const Control&)) { return pickControl(*form, fits); };

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <map>
 #include <random>
 #include <string>
@@ -36,11 +37,20 @@ struct FuzzOptions {
     // bonus round, so that random games reach the bonus round too.
     std::string settingsFile, bonusSection;
     bool keepTrail = false;  // keep it after a clean run too, closed by expectations of the end state
+    // Values at the edges of their types: each time the game window opens
+    // again, its settings file holds them in its numeric sections (as the
+    // window last wrote it), and custom scoring dialogs get them in their boxes.
+    bool edges = false;
+    std::string settingsName;  // the game's settings file, for `edges`
+    // Play toward big scores: favourable decks are stacked, and where the
+    // game has a player (tools/fuzz/players.h) its best move is preferred.
+    bool scoring = false;
 };
 
 struct FuzzResult {
     long long events = 0;
     long long gamesCompleted = 0;  // Play to Game Over
+    long long bestScore = 0;       // the highest CurrentScore seen
     int64_t virtualMs = 0;
     std::string fault;  // empty when every check held
     std::map<std::string, long long> messageBoxes;  // how often each text was shown
@@ -89,6 +99,9 @@ private:
     std::string advance();
     std::string text(bool fileName);
     std::string lowTable();
+    std::string edgeSettings();
+    bool OnlyGameOpen() const;
+    std::string fillDialog(Form& dialog);
     Form* pickForm();
     Control* pickControl(Form& form, bool (*fits)(const Control&));
     std::string ref(const Control& control) const;
@@ -108,13 +121,15 @@ private:
     long modalEvents_ = 0;
     size_t tablesWritten_ = 0;
     bool settingsWritten_ = false;
-    // Every third seed plays steadily: menus, Play and closing rarely while a
-    // game runs, so that rounds and bonus rounds are played out.
+    // Every third seed, and every run that plays for the score, plays
+    // steadily: menus, Play and closing rarely while a game runs, so that
+    // rounds and bonus rounds are played out.
     bool steady_ = false;
     std::string lastMessage_;
     bool lastWasStep_ = false;
     bool gameWasInProgress_ = false;
     int trailFd_ = -1;
+    std::deque<std::string> pending_;  // events that follow the last one, in order
 };
 
 // Runs one whole fuzz run in this process: the suite from its start, the

@@ -19,7 +19,7 @@ namespace {
 
 constexpr char kUsage[] =
     "usage: cardhaven-fuzz --game NAME [--seed N] [--events N] [--data DIR] [--trail FILE] [--keep-trail]\n"
-    "                      [--stats] [--home DIR]\n";
+    "                      [--stats] [--home DIR] [--edges] [--scoring]\n";
 
 struct Game {
     const char* name;
@@ -79,7 +79,13 @@ int main(int argc, char** argv) {
                          "(default cardhaven-fuzz-GAME-SEED.script) replays it: cardhaven-script --data DIR FILE.\n"
                          "--keep-trail keeps it after a clean run too, ending in expectations of the\n"
                          "state the run reached, so that a replay checks itself. --stats counts the\n"
-                         "message boxes shown, by text, the sounds played and the game's messages.\n";
+                         "message boxes shown, by text, the sounds played, the game's messages and the\n"
+                         "highest score.\n"
+                         "--edges writes values at the edges of 16- and 32-bit numbers (the bounds, one\n"
+                         "past, negative, zero) into every numeric section of the settings file each\n"
+                         "time the game opens again, and into the boxes of its scoring dialog.\n"
+                         "--scoring plays toward big scores: favourable decks, and the moves the rules\n"
+                         "score (Treyshift, Handgrid, Fivestack, Spirehold).\n";
             return 0;
         } else if (arg == "--game") gameName = value();
         else if (arg == "--seed") options.seed = std::strtoull(value().c_str(), nullptr, 10);
@@ -89,6 +95,8 @@ int main(int argc, char** argv) {
         else if (arg == "--home") options.home = value();
         else if (arg == "--keep-trail") options.keepTrail = true;
         else if (arg == "--stats") stats = true;
+        else if (arg == "--edges") options.edges = true;
+        else if (arg == "--scoring") options.scoring = true;
         else Usage("unknown argument " + arg);
     }
     const Game* game = nullptr;
@@ -97,6 +105,7 @@ int main(int argc, char** argv) {
     if (!game) Usage("--game takes one of the seven games");
     options.game = game->form;
     options.selectorButton = game->button;
+    options.settingsName = game->settings;
     // Odd seeds start with a bonus round within reach of random play.
     if (*game->bonusSection && options.seed % 2 == 1) {
         options.settingsFile = game->settings;
@@ -131,6 +140,7 @@ int main(int argc, char** argv) {
     std::cout << gameName << " seed " << options.seed << ": " << result.events << " events, " << result.gamesCompleted
               << " games completed, " << result.virtualMs / 1000 << " s of virtual time, " << seconds << " s\n";
     if (stats) {
+        std::cout << "  highest score " << result.bestScore << "\n";
         for (const auto& [text, count] : result.messageBoxes) std::cout << "  " << count << "  " << text << "\n";
         for (const auto& [sound, count] : result.sounds) std::cout << "  " << count << "  " << sound << "\n";
         for (const auto& [text, count] : result.messages) std::cout << "  " << count << "  lblMessage " << text << "\n";

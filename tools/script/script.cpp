@@ -475,8 +475,10 @@ std::optional<HeadlessPlatform::Step> ScriptRunner::execute(const std::vector<st
         return std::nullopt;
     }
     if (cmd == "stack") {
-        if (n < 2) error("stack takes the cards in order");
-        randomness::StackNextShuffle(std::vector<std::string>(t.begin() + 1, t.end()));
+        if (n < 2) error("stack takes the cards in order, or none");
+        // "stack none" takes back an order that no shuffle has used yet.
+        if (n == 2 && t[1] == "none") randomness::StackNextShuffle({});
+        else randomness::StackNextShuffle(std::vector<std::string>(t.begin() + 1, t.end()));
         return std::nullopt;
     }
     if (cmd == "random") {

@@ -79,7 +79,10 @@ private:
     void cmdTakeScore_Click();
     void Timer1_Timer();
     void EndRound();
+    void GameOver();
+    void EndOnError(const RuntimeError& error);
     void RemoveLeftOverCards();
+    void RestoreFlushLabel();
     void InitRound();
     void ResetDial();
     void CenterScoringLabel();
@@ -101,6 +104,8 @@ private:
     int16_t TripCount = 0;
     int16_t RunCount = 0;
     int16_t CurrentRound = 1;
+    bool EndingRound = false;  // a round is being scored
+    long RoundEnds = 0;        // rounds scored since the window was made
     SplashAnimation Splash;
 };
 

@@ -123,8 +123,13 @@ void frmTreyshift::PlayCard_Click(int index) {
         } else {
             Wave("\\Chord.wav");  // the column is full
         }
-        for (int column = 0; column < kColumns; ++column)
-            if (c("PlayCard", column + 8).picture() != 0) CheckColumn(column);
+        try {
+            for (int column = 0; column < kColumns; ++column)
+                if (c("PlayCard", column + 8).picture() != 0) CheckColumn(column);
+        } catch (const RuntimeError& error) {
+            EndOnError(error);
+            return;
+        }
     }
     if (index > 7) StuckTest();
 }
@@ -290,15 +295,14 @@ void frmTreyshift::Deal() {
 
 // ---- What the board shows ---------------------------------------------------------------
 
-// The landing slots are left as they are. The deck stack comes and goes with
-// the cards, so that a round after the clock or a stuck position ran out
-// shows its deck again.
+// The landing slots are left as they are, and so is the deck stack: only the
+// clock running out, a stuck position and a used up deck hide the stack, and
+// from then on it stays hidden while the window is open.
 void frmTreyshift::ShowCards(bool show) {
     for (int i = 0; i < 3; ++i) {
         c("TempCard", i).setVisible(show);
         c("UpCard", i).setVisible(show);
     }
-    c("CardStackPicture").setVisible(show);
     for (int i = 0; i < 4; ++i) c("PlayCard", i).setVisible(show);
     for (int i = 0; i < kFieldSlots; ++i)
         if (c("PlayCard", i).picture() != 0) c("PlayCard", i).setVisible(show);

@@ -69,7 +69,8 @@ void frmTreyshift::Play() {
 void frmTreyshift::EndGame() {
     GameInProgress = false;
     SetResumedControls(*this);
-    for (const char* name : {"cmdPause", "cmdTakeScore", "mnuPause", "mnuTakeScore"}) c(name).setEnabled(false);
+    // The menu entries of pause and Take Score stay as they are.
+    for (const char* name : {"cmdPause", "cmdTakeScore"}) c(name).setEnabled(false);
     SetPlayCaptions(*this, false);
     ShowControls(false, false);
     ShowCards(false);
@@ -125,12 +126,41 @@ void frmTreyshift::Timer1_Timer() {
     setMousePointer(0);
 }
 
+// One round end at a time, whatever order the waiting events are served in:
+// none starts while a round is being scored, and a click whose wait let the
+// clock's last tick end the round asks for nothing more.
 void frmTreyshift::cmdTakeScore_Click() {
+    if (EndingRound) return;
+    const long roundEnds = RoundEnds;
     DoEvents();
-    if (!loaded()) return;
+    if (!loaded() || EndingRound || RoundEnds != roundEnds) return;
     TakingScore = true;
-    EndRound();
+    EndingRound = true;
+    RoundEnds += 1;
+    try {
+        EndRound();
+    } catch (const RuntimeError& error) {
+        EndOnError(error);
+    }
+    EndingRound = false;
+    if (!loaded()) return;
     DoEvents();
+}
+
+// A score carried past the 32-bit range ("Overflow") is told with the
+// platform's message; the game then ends as after its last round, with the
+// score made before the step that failed, which is offered to the table.
+void frmTreyshift::EndOnError(const RuntimeError& error) {
+    if (PlayMusic) StopMusic();
+    ShowRunTimeError(error);
+    if (!loaded()) return;
+    // The removal of left over cards may have stopped with a card outlined.
+    RestoreFlushLabel();
+    for (int i = 0; i < kFieldSlots; ++i) c("PlayCardSelection", i).setVisible(false);
+    for (int i = 0; i < kTempSlots; ++i) c("TempCardSelection", i).setVisible(false);
+    for (const char* name : {"lblMessage", "lblScoring", "ScoringLabelOutline"}) c(name).setVisible(false);
+    c("lblCurrentScore").setForeColor(0xFF0000);
+    GameOver();
 }
 
 // ---- The end of a round -------------------------------------------------------------------
@@ -180,51 +210,59 @@ void frmTreyshift::EndRound() {
     message.setVisible(false);
 
     if (GameEndsAfter(CurrentRound, CurrentScore, BonusScore)) {
-        FinishGameSteps steps;
-        steps.showCards = [this](bool show) { ShowCards(show); };
-        steps.showControls = [this](bool board, bool score) { ShowControls(board, score); };
-        steps.disableTakeScoreMenu = false;
-        FinishGame(*this, kTable, kRoundsDefault, steps);
-        if (!loaded()) return;
-        GameInProgress = false;
-        ShowCards(false);
-        ShowControls(false, false);
-        ResetDial();
-        c("cmdPlay").setToolTipText(kStartsTip);
-        ShowCards(false);
-        scoring.setForeColor(0xFF0000);
-        scoring.setCaption(kGameOver);
-        CenterScoringLabel();
-        scoring.setVisible(true);
-        c("ScoringLabelOutline").setVisible(true);
-        runtime().refresh();
-        Sleep(1000);
-        scoring.setVisible(false);
-        c("ScoringLabelOutline").setVisible(false);
-        ShowSplash(*this, true);
-        runtime().refresh();
-    } else {
-        scoring.setForeColor(255);
-        CurrentRound += 1;
-        scoring.setCaption(PrepareText(CurrentRound));
-        CenterScoringLabel();
-        scoring.setVisible(true);
-        c("ScoringLabelOutline").setVisible(true);
-        runtime().refresh();
-        Sleep(2000);
-        InitRound();
-        if (!loaded()) return;
-        CreateStandardDeck();
-        ShuffleDeck();
-        Deal();
-        c("ScoringLabelOutline").setVisible(false);
-        scoring.setVisible(false);
-        ShowControls(true, true);
-        ShowCards(true);
-        c("lblRound").setCaption("Round: " + NumText(CurrentRound));
-        c("lblTime").setCaption("Time: " + NumText(TimeLimit));
-        if (PlayMusic) StartMusic();
+        GameOver();
+        return;
     }
+    scoring.setForeColor(255);
+    CurrentRound += 1;
+    scoring.setCaption(PrepareText(CurrentRound));
+    CenterScoringLabel();
+    scoring.setVisible(true);
+    c("ScoringLabelOutline").setVisible(true);
+    runtime().refresh();
+    Sleep(2000);
+    InitRound();
+    if (!loaded()) return;
+    CreateStandardDeck();
+    ShuffleDeck();
+    Deal();
+    c("ScoringLabelOutline").setVisible(false);
+    scoring.setVisible(false);
+    ShowControls(true, true);
+    ShowCards(true);
+    c("lblRound").setCaption("Round: " + NumText(CurrentRound));
+    c("lblTime").setCaption("Time: " + NumText(TimeLimit));
+    if (PlayMusic) StartMusic();
+    setMousePointer(0);
+}
+
+// The score goes to the table, the board goes, "Game Over" stands a second,
+// then the splash.
+void frmTreyshift::GameOver() {
+    Control& scoring = c("lblScoring");
+    FinishGameSteps steps;
+    steps.showCards = [this](bool show) { ShowCards(show); };
+    steps.showControls = [this](bool board, bool score) { ShowControls(board, score); };
+    steps.disableTakeScoreMenu = false;
+    FinishGame(*this, kTable, kRoundsDefault, steps);
+    if (!loaded()) return;
+    GameInProgress = false;
+    ShowCards(false);
+    ShowControls(false, false);
+    ResetDial();
+    c("cmdPlay").setToolTipText(kStartsTip);
+    ShowCards(false);
+    scoring.setForeColor(0xFF0000);
+    scoring.setCaption(kGameOver);
+    CenterScoringLabel();
+    scoring.setVisible(true);
+    c("ScoringLabelOutline").setVisible(true);
+    runtime().refresh();
+    Sleep(1000);
+    scoring.setVisible(false);
+    c("ScoringLabelOutline").setVisible(false);
+    ShowSplash(*this, true);
+    runtime().refresh();
     setMousePointer(0);
 }
 
@@ -274,13 +312,19 @@ void frmTreyshift::RemoveLeftOverCards() {
     for (int i = kTempSlots - 1; i >= 0; --i)
         if (!TempCards[static_cast<size_t>(i)].empty()) remove("TempCardSelection", "TempCard", i, true);
 
+    RestoreFlushLabel();
+    message.setVisible(false);
+    scoring.setVisible(false);
+}
+
+// The flush word as the removal of left over cards found it: hidden.
+void frmTreyshift::RestoreFlushLabel() {
+    Control& flush = c("lblFlush");
     flush.setCaption("Flush!");
     flush.setBackStyle(1);
     flush.setFontSize(8);
     FitLabelToText(flush);
     flush.setVisible(false);
-    message.setVisible(false);
-    scoring.setVisible(false);
 }
 
 // A new round's board: nothing dealt, nothing selected. The trip and run
