@@ -49,3 +49,21 @@ if(CARDHAVEN_TESTS)
                    --command ${PROJECT_SOURCE_DIR}/tests/scenarios/command/cleo.sfl
                    ${PROJECT_SOURCE_DIR}/tests/scenarios/command/sumfall_command_line.script)
 endif()
+
+# The site: every file of the web edition in one folder for any static host.
+if(CARDHAVEN_QT)
+  set(CARDHAVEN_SITE_DIR ${PROJECT_BINARY_DIR}/site)
+  add_custom_target(cardhaven_site ALL
+    COMMAND ${PROJECT_SOURCE_DIR}/tools/web/site.sh ${CARDHAVEN_SITE_DIR} $<TARGET_FILE:cardhaven>
+            ${CARDHAVEN_WEB_DIR} ${CARDHAVEN_DATA_DIR} ${PROJECT_VERSION}
+    COMMENT "Putting the web edition together in ${CARDHAVEN_SITE_DIR}"
+    VERBATIM)
+  add_dependencies(cardhaven_site cardhaven_web cardhaven cardhaven_data)
+endif()
+
+# The page in a headless Chromium (web/tests). Skipped, and said so, where no
+# Chromium can run; never in CI.
+if(CARDHAVEN_TESTS AND CARDHAVEN_QT)
+  add_test(NAME web.page COMMAND ${PROJECT_SOURCE_DIR}/tools/web/page-tests.sh ${CARDHAVEN_SITE_DIR})
+  set_tests_properties(web.page PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 600 RESOURCE_LOCK chromium)
+endif()
