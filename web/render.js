@@ -104,7 +104,7 @@ export class Renderer {
     this.desktop.append(el);
     const w = {name: f.name, instance: f.instance, el, controls: new Map(), placed: false, visible: false,
       caption: el.querySelector('.caption'), menubar: el.querySelector('.menubar'),
-      client: el.querySelector('.client'), menuShape: '', state: 0, width: -1, height: -1};
+      client: el.querySelector('.client'), menuShape: '', snaps: new Map(), state: 0, width: -1, height: -1};
     el.querySelector('.close').addEventListener('click', () => this.send('close', f.name));
     el.querySelector('.max').addEventListener('click', () => {
       const state = w.state === 2 ? 0 : 2;
@@ -145,15 +145,16 @@ export class Renderer {
     w.el.style.cursor = f.pointer === 11 ? 'wait' : '';
     w.el.classList.toggle('busy', f.pointer === 11);
     w.el.classList.toggle('disabled', !f.enabled);
+    // A control the worker sent before comes as its key and revision alone.
     const snaps = [];
+    const latest = new Map();
     for (const c of f.controls) {
-      const known = w.controls.get(c.key);
-      if (c.kind === undefined) {
-        if (known) snaps.push(known.snap);
-        continue;
-      }
-      snaps.push(c);
+      const s = c.kind === undefined ? w.snaps.get(c.key) : c;
+      if (!s) continue;
+      snaps.push(s);
+      latest.set(s.key, s);
     }
+    w.snaps = latest;
     w.hasMenu = snaps.some((s) => s.kind === 'menu');
     w.menubar.hidden = !w.hasMenu;
     this.applyMenus(w, snaps.filter((s) => s.kind === 'menu'));
@@ -516,45 +517,53 @@ export class Renderer {
       w.menubar.textContent = '';
       w.menuItems = new Map();
       const lists = new Map();
+      const hasChildren = (m) => menus.some((c) => c.container === m.name);
       for (const m of menus) {
         const item = document.createElement('div');
         item.dataset.name = m.key;
         w.menuItems.set(m.key, item);
-        if (!m.container) {
-          item.className = 'menu-title';
+        const parent = m.container ? lists.get(m.container) : w.menubar;
+        if (!parent) continue;
+        if (m.text === '-') {
+          item.className = 'menu-separator';
+          parent.append(item);
+          continue;
+        }
+        item.label = item.appendChild(document.createElement('span'));
+        if (!m.container || hasChildren(m)) {
+          // A menu of the bar, or an entry that opens a menu of its own.
+          item.className = m.container ? 'menu-item submenu' : 'menu-title';
           item.setAttribute('role', 'menuitem');
-          item.tabIndex = -1;
-          const label = item.appendChild(document.createElement('span'));
           const list = item.appendChild(document.createElement('div'));
           list.className = 'menu-list';
           list.setAttribute('role', 'menu');
           list.hidden = true;
           lists.set(m.name, list);
-          item.label = label;
           item.list = list;
-          label.addEventListener('click', () => {
-            if (this.openMenu === item) this.closeMenus();
-            else this.openTopMenu(w, item);
-          });
-          w.menubar.append(item);
-        } else {
-          const list = lists.get(m.container);
-          if (!list) continue;
-          if (m.text === '-') {
-            item.className = 'menu-separator';
-          } else {
-            item.className = 'menu-item';
-            item.setAttribute('role', 'menuitemcheckbox');
-            item.label = item.appendChild(document.createElement('span'));
+          if (m.container) {
+            item.addEventListener('pointerenter', () => { list.hidden = item.classList.contains('disabled'); });
+            item.addEventListener('pointerleave', () => { list.hidden = true; });
             item.addEventListener('click', (e) => {
               e.stopPropagation();
-              if (item.classList.contains('disabled')) return;
-              this.closeMenus();
-              this.send('click', w.name, item.snap.name, item.snap.index);
+              if (e.target === item || e.target === item.label) list.hidden = item.classList.contains('disabled');
+            });
+          } else {
+            item.label.addEventListener('click', () => {
+              if (this.openMenu === item) this.closeMenus();
+              else this.openTopMenu(w, item);
             });
           }
-          list.append(item);
+        } else {
+          item.className = 'menu-item';
+          item.setAttribute('role', 'menuitemcheckbox');
+          item.addEventListener('click', (e) => {
+            e.stopPropagation();
+            if (item.classList.contains('disabled')) return;
+            this.closeMenus();
+            this.send('click', w.name, item.snap.name, item.snap.index);
+          });
         }
+        parent.append(item);
       }
     }
     for (const m of menus) {
@@ -565,6 +574,7 @@ export class Renderer {
       item.classList.toggle('disabled', !m.enabled);
       item.classList.toggle('checked', m.checked);
       if (m.text !== '-' && item.label) item.mnemonic = setMnemonicText(item.label, m.text);
+      if (m.text !== '-') item.setAttribute('aria-checked', String(m.checked));
     }
   }
 
@@ -580,7 +590,7 @@ export class Renderer {
 
   closeMenus() {
     if (!this.openMenu) return;
-    this.openMenu.list.hidden = true;
+    this.openMenu.querySelectorAll('.menu-list').forEach((l) => { l.hidden = true; });
     this.openMenu.classList.remove('open');
     this.openMenu = null;
   }
@@ -606,7 +616,9 @@ export class Renderer {
       if (e.key === 'Escape') {
         this.closeMenus();
       } else if (letter) {
-        const entry = [...this.openMenu.list.children].find((i) => i.mnemonic === letter && !i.hidden);
+        const lists = [...this.openMenu.querySelectorAll('.menu-list')].filter((l) => !l.hidden);
+        const list = lists[lists.length - 1] || this.openMenu.list;
+        const entry = [...list.children].find((i) => i.mnemonic === letter && !i.hidden);
         if (entry) entry.click();
       }
       e.preventDefault();
