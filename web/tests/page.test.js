@@ -147,6 +147,23 @@ describe('the suite in the page', () => {
     await second.close();
   });
 
+  test("the web site button gives the selector's own message when the browser refuses a new tab", async () => {
+    await page.goto(`${server.url}?test&nopopup`);
+    await click(page, 'frmSelect.cmdLaunchBrowser');
+    await page.waitForSelector('.msgbox', {visible: true});
+    assert.match(await page.$eval('.msgbox .text', (e) => e.textContent), /^Unable to open web page '.+'\.$/);
+    assert.ok(await page.$('.msgbox .icon.exclamation'));
+    await page.click('.msgbox .buttons button');
+  });
+
+  test('closing the selector ends the suite and leaves a page that starts it again', async () => {
+    await click(page, 'frmSelect.cmdClose');
+    await page.waitForSelector('#status button.again', {visible: true});
+    assert.equal(await page.$('.window'), null);
+    await page.click('#status button.again');
+    await page.waitForSelector(sel('frmSelect'), {visible: true, timeout: 20000});
+  });
+
   test('the page starts and plays offline after one visit', async () => {
     await page.waitForFunction(async () => (await navigator.serviceWorker.ready).active?.state === 'activated',
       {timeout: 20000});
