@@ -99,7 +99,7 @@ export class Renderer {
     el.innerHTML = '<div class="titlebar"><span class="caption"></span>' +
       '<button class="max" aria-label="Maximise" tabindex="-1">□</button>' +
       '<button class="close" aria-label="Close" tabindex="-1">×</button></div>' +
-      '<div class="menubar" role="menubar"></div><div class="client"></div>';
+      '<div class="menubar" role="menubar"></div><div class="client"></div><div class="grip"></div>';
     el.hidden = true;
     this.desktop.append(el);
     const w = {name: f.name, instance: f.instance, el, controls: new Map(), placed: false, visible: false,
@@ -112,6 +112,7 @@ export class Renderer {
     });
     el.addEventListener('pointerdown', () => this.raise(w));
     this.makeMovable(w, el.querySelector('.titlebar'));
+    this.makeResizable(w, el.querySelector('.grip'));
     return w;
   }
 
@@ -130,6 +131,29 @@ export class Renderer {
       };
       bar.addEventListener('pointermove', move);
       bar.addEventListener('pointerup', up);
+    });
+  }
+
+  // The player drags the corner; the logic hears the new size when the drag ends.
+  makeResizable(w, grip) {
+    grip.addEventListener('pointerdown', (e) => {
+      if (w.state !== 0) return;
+      e.stopPropagation();
+      const start = {x: e.clientX, y: e.clientY, width: w.el.offsetWidth, height: w.el.offsetHeight};
+      grip.setPointerCapture(e.pointerId);
+      const size = (m) => [Math.max(120, start.width + m.clientX - start.x), Math.max(60, start.height + m.clientY - start.y)];
+      const move = (m) => {
+        const [width, height] = size(m);
+        w.el.style.width = `${width}px`;
+        w.el.style.height = `${height}px`;
+      };
+      const up = (m) => {
+        grip.removeEventListener('pointermove', move);
+        grip.removeEventListener('pointerup', up);
+        this.resized(w, ...size(m));
+      };
+      grip.addEventListener('pointermove', move);
+      grip.addEventListener('pointerup', up);
     });
   }
 
@@ -200,13 +224,20 @@ export class Renderer {
     }
   }
 
-  // A window larger than the page is made to fit it, as a player would resize it.
+  // A window is kept inside the page; a maximised one fills it.
   fit(w) {
     if (!w.visible || w.state === 1) return;
     const vw = this.desktop.clientWidth, vh = this.desktop.clientHeight;
     if (w.state === 2) {
       this.resized(w, vw, vh);
       return;
+    }
+    // A window larger than the page is made smaller, as a player would.
+    if (w.el.offsetWidth > vw || w.el.offsetHeight > vh) {
+      const width = Math.min(w.el.offsetWidth, vw), height = Math.min(w.el.offsetHeight, vh);
+      w.el.style.width = `${width}px`;
+      w.el.style.height = `${height}px`;
+      this.resized(w, width, height);
     }
     const left = Math.max(0, Math.min(w.el.offsetLeft, vw - w.el.offsetWidth));
     const top = Math.max(0, Math.min(w.el.offsetTop, vh - w.el.offsetHeight));
