@@ -79,7 +79,8 @@ void PrintHelp() {
                  "the Sumfall window first comes up.\n"
                  "\n"
                  "For testing: --data DIR, --script FILE, --shots DIR, --list-games,\n"
-                 "--report-startup, --write-icon FILE SIZE, --card-sheet FILE RATIO.\n";
+                 "--report-startup, --write-icon FILE SIZE, --card-sheet FILE RATIO,\n"
+                 "--card-sprites FILE RATIO.\n";
 }
 
 double PositiveNumber(const std::string& option, const std::string& text) {

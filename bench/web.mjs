@@ -45,7 +45,7 @@ function rendererMb(pids) {
   for (const pid of pids) {
     try {
       if (!fs.readFileSync(`/proc/${pid}/cmdline`, 'utf8').includes('--type=renderer')) continue;
-      kb += +fs.readFileSync(`/proc/${pid}/status`, 'utf8').match(/VmRSS:\s+(\d+)/)[1];
+      kb += +fs.readFileSync(`/proc/${pid}/smaps_rollup`, 'utf8').match(/Pss:\s+(\d+)/)[1];
     } catch (err) { /* gone */ }
   }
   return kb / 1024;
@@ -58,9 +58,15 @@ async function idleCpu(pids) {
 }
 
 const port = 18500 + (process.pid % 400);
-const server = spawn(process.execPath, [path.join(here, '..', 'web', 'serve.js'), site, String(port)], {stdio: ['ignore', 'pipe', 'inherit']});
+const server = spawn(process.execPath, [path.join(here, '..', 'web', 'serve.js'), site, String(port)],
+  {stdio: ['ignore', 'pipe', 'inherit'], env: {...process.env, CARDHAVEN_SERVE_LOG: '1'}});
 await new Promise((r) => server.stdout.once('data', r));
-const results = {selector: [], transfer: [], tab: [], idle: [], game: [], input: []};
+// Bytes on the wire, the tune not counted, as the server sent them.
+let sent = 0;
+server.stdout.on('data', (chunk) => {
+  for (const [, file, bytes] of String(chunk).matchAll(/^sent (\S+) (\d+)$/gm)) if (!/tune/.test(file)) sent += +bytes;
+});
+const results = {selector: [], transfer: [], kept: [], tab: [], idle: [], game: [], input: []};
 try {
   for (let run = 1; run <= +runs; run++) {
     const profile = fs.mkdtempSync(path.join(os.tmpdir(), 'cardhaven-bench-'));
@@ -69,19 +75,12 @@ try {
     try {
       const page = await browser.newPage();
       await page.setViewport({width: 1280, height: 900});
-      const cdp = await page.createCDPSession();
-      await cdp.send('Network.enable');
-      await cdp.send('Network.setCacheDisabled', {cacheDisabled: true});
-      let bytes = 0;
-      const urls = new Map();
-      cdp.on('Network.responseReceived', (e) => urls.set(e.requestId, e.response.url));
-      cdp.on('Network.loadingFinished', (e) => {
-        if (!/tune\.ogg/.test(urls.get(e.requestId) || '')) bytes += e.encodedDataLength;
-      });
+      sent = 0;
       await page.goto(`http://localhost:${port}/`);
       await page.waitForSelector('body[data-drawn]', {timeout: 30000});
       const drawn = await page.evaluate(() => +document.body.dataset.drawn);
-      const transferred = bytes;
+      await sleep(200);  // the server's last lines
+      const transferred = sent;
       const pids = chromiumProcesses(browser.process().pid);
       const idle = await idleCpu(pids);
       // A click to the next snapshot the worker sends.
@@ -95,14 +94,16 @@ try {
       await sleep(2000);
       const game = await idleCpu(pids);
       const tab = rendererMb(chromiumProcesses(browser.process().pid));
+      const kept = sent;  // with what the service worker keeps for offline play
       results.selector.push(drawn);
       results.transfer.push(transferred / 1024);
+      results.kept.push(kept / 1024);
       results.tab.push(tab);
       results.idle.push(idle);
       results.game.push(game);
       results.input.push(input);
       console.error(`run ${run}: selector ${drawn.toFixed(0)} ms, ${(transferred / 1024).toFixed(0)} KB, ` +
-        `tab ${tab.toFixed(0)} MB, idle ${idle.toFixed(2)} %, game ${game.toFixed(2)} %, input ${input.toFixed(1)} ms`);
+        `offline copy ${(kept / 1024).toFixed(0)} KB, tab ${tab.toFixed(0)} MB, idle ${idle.toFixed(2)} %, game ${game.toFixed(2)} %, input ${input.toFixed(1)} ms`);
     } finally {
       await browser.close();
       fs.rmSync(profile, {recursive: true, force: true});
@@ -113,6 +114,7 @@ try {
 }
 console.log(`web_selector_ms ${median(results.selector).toFixed(0)}`);
 console.log(`web_transfer_kb ${median(results.transfer).toFixed(0)}`);
+console.log(`web_offline_copy_kb ${median(results.kept).toFixed(0)}`);
 console.log(`web_tab_mb ${median(results.tab).toFixed(1)}`);
 console.log(`web_idle_cpu_pct ${median(results.idle).toFixed(2)}`);
 console.log(`web_game_cpu_pct ${median(results.game).toFixed(2)}`);

@@ -6,7 +6,9 @@
 #   web_selector_ms     navigation start to the selector's window drawn
 #   web_transfer_kb     bytes sent by the server (gzipped where it gzips) up to
 #                       the selector drawn, the tune not counted
-#   web_tab_mb          resident memory of the tab's renderer process, one game open
+#   web_offline_copy_kb the same once the service worker has kept every file
+#   web_tab_mb          proportional resident memory (PSS) of the tab's
+#                       renderer process, its worker included, one game open
 #   web_idle_cpu_pct    processor time of Chromium's processes over 10 idle
 #                       seconds at the selector, in percent of one core
 #   web_game_cpu_pct    the same with the first game's window open
@@ -29,12 +31,16 @@ node "$here/bench/web.mjs" "$build/site" "$runs"
 echo "== blocking: a worker that waits against Asyncify"
 export EM_CACHE=$build/web/emcache NODE_PATH=/usr/share/nodejs
 cmake --build "$build/web" --target cardhaven-script-asyncify >/dev/null
+# Processor seconds of every scenario script on one build of the driver.
+scenarios_cpu() {
+    local js=$1 s
+    for s in "$here"/tests/scenarios/*.script; do
+        node --no-experimental-fetch "$js" --data "$build/data" "$s" >/dev/null || echo "FAIL $s" >&2
+    done
+}
 for variant in cardhaven-script cardhaven-script-asyncify; do
     wasm=$build/web/$variant.wasm
-    start=$(date +%s%N)
-    cpu=$( { /usr/bin/time -f '%U %S' bash -c '
-        for s in "$1"/tests/scenarios/*.script; do
-            node --no-experimental-fetch "$2" --data "$3" "$s" >/dev/null || echo "FAIL $s" >&2
-        done' _ "$here" "$build/web/$variant.js" "$build/data" ; } 2>&1 | tail -n 1 | awk '{ print $1 + $2 }')
+    TIMEFORMAT='%U %S'
+    cpu=$( { time scenarios_cpu "$build/web/$variant.js"; } 2>&1 | tail -n 1 | awk '{ print $1 + $2 }')
     echo "$variant wasm_kb $(($(stat -c %s "$wasm") / 1024)) gzip_kb $(($(gzip -9c "$wasm" | wc -c) / 1024)) scenarios_cpu_s $cpu"
 done

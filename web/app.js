@@ -17,6 +17,10 @@ const status = document.getElementById('status');
 const storage = new Storage();
 const audio = new Audio();
 let suite = null;
+// The service worker is registered once the suite is drawn, so that keeping
+// the files for offline play does not slow the first start.
+let markDrawn;
+const firstDrawn = new Promise((resolve) => { markDrawn = resolve; });
 
 // ---- message boxes ------------------------------------------------------------
 const ICONS = {1: 'critical', 2: 'question', 3: 'exclamation', 4: 'information'};
@@ -88,6 +92,7 @@ class Suite {
         if (!this.drawn && document.querySelector('.window:not([hidden])')) {
           this.drawn = performance.now();
           document.body.dataset.drawn = String(Math.round(this.drawn));
+          markDrawn();
         }
         break;
       case 'msgbox':
@@ -239,6 +244,7 @@ async function main() {
   if (!crossOriginIsolated) {
     // The service worker adds the isolation headers; the next load has them.
     if (navigator.serviceWorker && navigator.serviceWorker.controller === null && !sessionStorage.reloaded) {
+      markDrawn();
       sessionStorage.reloaded = '1';
       await navigator.serviceWorker.ready;
       location.reload();
@@ -274,7 +280,7 @@ function watchVersions() {
     note.hidden = false;
   }
   if (!('serviceWorker' in navigator)) return;
-  navigator.serviceWorker.register('sw.js').then((registration) => {
+  firstDrawn.then(() => navigator.serviceWorker.register('sw.js')).then((registration) => {
     const waiting = () => {
       note.textContent = 'A new version of Card Haven is ready: it starts the next time you open the page.';
       note.hidden = false;

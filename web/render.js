@@ -46,6 +46,15 @@ export function setMnemonicText(el, text) {
 
 const POINTERS = {1: 'default', 2: 'crosshair', 3: 'text', 11: 'wait', 12: 'not-allowed', 13: 'progress'};
 
+// Sets a style property of a control's element only when it changes: a count-up
+// or the selector's ring then costs the page one card or one label.
+function css(c, prop, value) {
+  if (!c.css) c.css = {};
+  if (c.css[prop] === value) return;
+  c.css[prop] = value;
+  c.el.style[prop] = value;
+}
+
 export class Renderer {
   // send(kind, form, control, index, text, key, value, width, height)
   constructor(desktop, send, pointerCursor) {
@@ -162,13 +171,16 @@ export class Renderer {
   }
 
   applyWindow(w, f) {
+    // Only what changed is written: a write to the page costs a new layout.
+    const last = w.form || {};
     w.form = f;
-    w.caption.textContent = f.caption;
-    w.el.setAttribute('aria-label', f.caption);
-    w.client.style.background = rgb(f.back);
-    w.el.style.cursor = f.pointer === 11 ? 'wait' : '';
-    w.el.classList.toggle('busy', f.pointer === 11);
-    w.el.classList.toggle('disabled', !f.enabled);
+    if (f.caption !== last.caption) {
+      w.caption.textContent = f.caption;
+      w.el.setAttribute('aria-label', f.caption);
+    }
+    if (f.back !== last.back) w.client.style.background = rgb(f.back);
+    if (f.pointer !== last.pointer) w.el.classList.toggle('busy', f.pointer === 11);
+    if (f.enabled !== last.enabled) w.el.classList.toggle('disabled', !f.enabled);
     // A control the worker sent before comes as its key and revision alone.
     const snaps = [];
     const latest = new Map();
@@ -179,8 +191,9 @@ export class Renderer {
       latest.set(s.key, s);
     }
     w.snaps = latest;
-    w.hasMenu = snaps.some((s) => s.kind === 'menu');
-    w.menubar.hidden = !w.hasMenu;
+    const hasMenu = snaps.some((s) => s.kind === 'menu');
+    if (hasMenu !== w.hasMenu) w.menubar.hidden = !hasMenu;
+    w.hasMenu = hasMenu;
     this.applyMenus(w, snaps.filter((s) => s.kind === 'menu'));
     for (const s of snaps) {
       if (s.kind === 'menu') continue;
@@ -398,8 +411,8 @@ export class Renderer {
     if (s.kind === 'line') {
       const x1 = px(s.left), y1 = px(s.top), x2 = px(s.left + s.width), y2 = px(s.top + s.height);
       const left = Math.min(x1, x2), top = Math.min(y1, y2);
-      el.style.left = `${left}px`;
-      el.style.top = `${top}px`;
+      css(c, 'left', `${left}px`);
+      css(c, 'top', `${top}px`);
       el.setAttribute('width', Math.abs(x2 - x1) + 1);
       el.setAttribute('height', Math.abs(y2 - y1) + 1);
       c.line.setAttribute('x1', x1 - left + 0.5);
@@ -409,35 +422,39 @@ export class Renderer {
       c.line.setAttribute('stroke', rgb(s.borderColor));
     } else if (s.kind !== 'statusbar') {
       const x = px(s.left), y = px(s.top);
-      el.style.left = `${x}px`;
-      el.style.top = `${y}px`;
-      el.style.width = `${Math.max(0, px(s.left + s.width) - x)}px`;
-      el.style.height = `${Math.max(0, px(s.top + s.height) - y)}px`;
+      css(c, 'left', `${x}px`);
+      css(c, 'top', `${y}px`);
+      css(c, 'width', `${Math.max(0, px(s.left + s.width) - x)}px`);
+      css(c, 'height', `${Math.max(0, px(s.top + s.height) - y)}px`);
     } else {
-      el.style.height = `${Math.max(22, px(s.height))}px`;
+      css(c, 'height', `${Math.max(22, px(s.height))}px`);
     }
-    el.style.zIndex = String((WINDOWED.has(s.kind) ? 100000 : 0) + s.z);
-    el.style.font = fontCss(s.size, s.bold);
-    if (s.tip) el.title = s.tip;
-    else el.removeAttribute('title');
+    css(c, 'zIndex', String((WINDOWED.has(s.kind) ? 100000 : 0) + s.z));
+    css(c, 'font', fontCss(s.size, s.bold));
+    if (s.tip !== c.tip) {
+      if (s.tip) el.title = s.tip;
+      else el.removeAttribute('title');
+      c.tip = s.tip;
+    }
     el.classList.toggle('disabled', !s.enabled);
     if (c.input && 'disabled' in c.input) c.input.disabled = !s.enabled;
-    el.style.cursor = s.pointer === 99 && s.icon > 0 ? this.pointerCursor(s.icon) : POINTERS[s.pointer] || '';
+    css(c, 'cursor', s.pointer === 99 && s.icon > 0 ? this.pointerCursor(s.icon) : POINTERS[s.pointer] || '');
     switch (s.kind) {
       case 'label':
-        el.style.background = s.backStyle !== 0 ? rgb(s.back) : 'transparent';
-        el.style.color = s.enabled ? rgb(s.fore) : '#808080';
-        el.style.textAlign = ['left', 'right', 'center'][s.align] || 'left';
+        css(c, 'background', s.backStyle !== 0 ? rgb(s.back) : 'transparent');
+        css(c, 'color', s.enabled ? rgb(s.fore) : '#808080');
+        css(c, 'textAlign', ['left', 'right', 'center'][s.align] || 'left');
         el.classList.toggle('bevel', s.border === 1);
-        setMnemonicText(el, s.text);
+        if (c.shown !== s.text) setMnemonicText(el, s.text);
+        c.shown = s.text;
         break;
       case 'image':
-        Object.assign(el.style, cardStyle(s.picture, s.border === 1 ? 1 : 0));
+        for (const [k, v] of Object.entries(cardStyle(s.picture, s.border === 1 ? 1 : 0))) css(c, k, v);
         el.classList.toggle('framed', s.border === 1);
         el.setAttribute('aria-label', s.text || '');
         break;
       case 'shape':
-        el.style.border = `2px solid ${rgb(s.borderColor)}`;
+        css(c, 'border', `2px solid ${rgb(s.borderColor)}`);
         break;
       case 'button':
         c.mnemonic = setMnemonicText(el, s.text);
@@ -454,18 +471,18 @@ export class Renderer {
           c.selSerial = s.selSerial;
           try { el.setSelectionRange(s.selStart, s.selStart + s.selLength); } catch (err) { /* not focused */ }
         }
-        el.style.color = rgb(s.fore);
-        el.style.background = rgb(s.back);
+        css(c, 'color', rgb(s.fore));
+        css(c, 'background', rgb(s.back));
         break;
       case 'checkbox':
       case 'option':
         c.mnemonic = setMnemonicText(c.text, s.text);
         c.box.checked = s.value !== 0;
-        el.style.color = rgb(s.fore);
-        el.style.background = rgb(s.back);
+        css(c, 'color', rgb(s.fore));
+        css(c, 'background', rgb(s.back));
         break;
       case 'frame':
-        el.style.background = rgb(s.back);
+        css(c, 'background', rgb(s.back));
         c.legend.hidden = !s.text;
         setMnemonicText(c.legend, s.text);
         c.legend.style.background = rgb(s.back);
@@ -599,7 +616,7 @@ export class Renderer {
     }
     for (const m of menus) {
       const item = w.menuItems.get(m.key);
-      if (!item) continue;
+      if (!item || item.snap === m) continue;
       item.snap = m;
       item.hidden = !m.visible;
       item.classList.toggle('disabled', !m.enabled);

@@ -1,6 +1,7 @@
 // node serve.js DIR [PORT]: serves the site folder on localhost with the
 // cross-origin isolation headers the suite's shared memory needs, gzipped
-// where the browser takes it.
+// where the browser takes it. With CARDHAVEN_SERVE_LOG set it prints each
+// file sent and its size on the wire.
 'use strict';
 const fs = require('fs');
 const http = require('http');
@@ -35,6 +36,7 @@ http.createServer((req, res) => {
       headers['Content-Encoding'] = 'gzip';
     }
     headers['Content-Length'] = data.length;
+    if (process.env.CARDHAVEN_SERVE_LOG) console.log(`sent ${file} ${data.length}`);
     res.writeHead(200, headers);
     res.end(req.method === 'HEAD' ? undefined : data);
   });
