@@ -81,6 +81,7 @@ try {
       const drawn = await page.evaluate(() => +document.body.dataset.drawn);
       await sleep(200);  // the server's last lines
       const transferred = sent;
+      await sleep(5000);  // the service worker keeps its copy, the page settles
       const pids = chromiumProcesses(browser.process().pid);
       const idle = await idleCpu(pids);
       // A click to the next snapshot the worker sends.

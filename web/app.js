@@ -17,8 +17,8 @@ const status = document.getElementById('status');
 const storage = new Storage();
 const audio = new Audio();
 let suite = null;
-// The service worker is registered once the suite is drawn, so that keeping
-// the files for offline play does not slow the first start.
+// The service worker is registered two seconds after the suite is drawn, so
+// that keeping the files for offline play does not slow the first start.
 let markDrawn;
 const firstDrawn = new Promise((resolve) => { markDrawn = resolve; });
 
@@ -52,13 +52,13 @@ function showMessageBox(box, answer) {
     b.textContent = label;
     b.addEventListener('click', () => done(value));
   }
-  // Escape gives the box's last answer (Cancel, No; OK in an OK-only box).
+  // Return and Space press the button with the focus; Escape gives the box's
+  // last answer (Cancel, No; OK in an OK-only box).
   const keys = (e) => {
-    if (e.key === 'Escape') done(buttons[buttons.length - 1][1]);
-    else if (e.key !== 'Enter' && e.key !== ' ' && e.key !== 'Tab') return;
-    else return;
+    if (e.key !== 'Escape') return;
     e.preventDefault();
     e.stopPropagation();
+    done(buttons[buttons.length - 1][1]);
   };
   document.addEventListener('keydown', keys, true);
   overlay.style.zIndex = '1000000';
@@ -280,7 +280,8 @@ function watchVersions() {
     note.hidden = false;
   }
   if (!('serviceWorker' in navigator)) return;
-  firstDrawn.then(() => navigator.serviceWorker.register('sw.js')).then((registration) => {
+  firstDrawn.then(() => new Promise((resolve) => setTimeout(resolve, 2000)))
+    .then(() => navigator.serviceWorker.register('sw.js')).then((registration) => {
     const waiting = () => {
       note.textContent = 'A new version of Card Haven is ready: it starts the next time you open the page.';
       note.hidden = false;
