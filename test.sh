@@ -4,6 +4,7 @@
 cd "$(dirname "$0")"
 source tools/setup.sh
 cardhaven_install
+cardhaven_install_web
 cardhaven_build build-test -DCMAKE_BUILD_TYPE=Debug -DCARDHAVEN_SANITIZE=ON -DCARDHAVEN_WERROR=ON
 export ASAN_OPTIONS=detect_leaks=1:abort_on_error=0
 export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1

@@ -8,7 +8,9 @@
 // src/qt/driver.h), --shots DIR (where the script's shots go), --list-games
 // (the game windows of this build), --report-startup (prints when the first
 // window has been painted), --write-icon FILE SIZE (the icon as a PNG),
-// --card-sheet FILE RATIO (every picture of the catalogue on one PNG).
+// --card-sheet FILE RATIO (every picture of the catalogue on one PNG),
+// --card-sprites FILE RATIO (the same sheet on a transparent ground, which
+// the web edition cuts its pictures from).
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -49,6 +51,7 @@ struct Options {
     int iconSize = 256;
     QString sheetFile;
     double sheetRatio = 1;
+    bool sheetTable = true;
 };
 
 #ifndef CARDHAVEN_VERSION
@@ -76,7 +79,8 @@ void PrintHelp() {
                  "the Sumfall window first comes up.\n"
                  "\n"
                  "For testing: --data DIR, --script FILE, --shots DIR, --list-games,\n"
-                 "--report-startup, --write-icon FILE SIZE, --card-sheet FILE RATIO.\n";
+                 "--report-startup, --write-icon FILE SIZE, --card-sheet FILE RATIO,\n"
+                 "--card-sprites FILE RATIO.\n";
 }
 
 double PositiveNumber(const std::string& option, const std::string& text) {
@@ -115,7 +119,8 @@ Options ParseArguments(int argc, char** argv) {
         else if (arg == "--write-icon") {
             o.iconFile = QString::fromStdString(value());
             o.iconSize = static_cast<int>(PositiveNumber(arg, value()));
-        } else if (arg == "--card-sheet") {
+        } else if (arg == "--card-sheet" || arg == "--card-sprites") {
+            o.sheetTable = arg == "--card-sheet";
             o.sheetFile = QString::fromStdString(value());
             o.sheetRatio = PositiveNumber(arg, value());
         } else Usage("unknown option " + arg);
@@ -207,13 +212,14 @@ void QuietHandler(QtMsgType type, const QMessageLogContext&, const QString& text
     std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
-// Every catalogue entry at its own size, thirteen to a row, on a green table.
-bool WriteCardSheet(const QString& file, qreal ratio) {
+// Every catalogue entry at its own size, thirteen to a row in cells of 84 by
+// 110 pixels, on a green table or on nothing.
+bool WriteCardSheet(const QString& file, qreal ratio, bool table) {
     const int cell = 84, rowHeight = 110, columns = 13, rows = 6;
     QImage sheet(qRound(columns * cell * ratio + 8 * ratio), qRound(rows * rowHeight * ratio + 8 * ratio),
                  QImage::Format_ARGB32_Premultiplied);
     sheet.setDevicePixelRatio(ratio);
-    sheet.fill(QColor(0x1E, 0x6B, 0x3A));
+    sheet.fill(table ? QColor(0x1E, 0x6B, 0x3A) : QColor(Qt::transparent));
     QPainter p(&sheet);
     auto place = [&](int index, int slot) {
         const QPixmap pixmap = ch::CardPixmap(index, ratio);
@@ -276,7 +282,7 @@ int main(int argc, char** argv) {
         const bool ok = ch::AppIconPixmap(options.iconSize).save(options.iconFile);
         return ok ? 0 : 1;
     }
-    if (!options.sheetFile.isEmpty()) return WriteCardSheet(options.sheetFile, options.sheetRatio) ? 0 : 1;
+    if (!options.sheetFile.isEmpty()) return WriteCardSheet(options.sheetFile, options.sheetRatio, options.sheetTable) ? 0 : 1;
     QIcon icon;
     for (int size : {16, 32, 48, 64}) icon.addPixmap(ch::AppIconPixmap(size, app.devicePixelRatio()));
     QApplication::setWindowIcon(icon);

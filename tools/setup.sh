@@ -23,6 +23,19 @@ cardhaven_install() {
     DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
+# The web edition's tools: Emscripten (its JavaScript optimiser needs acorn),
+# the tune's renderer and compressor, the font cutter and Chromium for the
+# page tests. Node and npm only where missing: a Node from elsewhere may
+# bring its own npm, which Debian's npm package would conflict with.
+CARDHAVEN_WEB_PACKAGES=(emscripten node-acorn fluidsynth vorbis-tools python3-fonttools python3-brotli chromium)
+
+cardhaven_install_web() {
+    local extra=()
+    command -v node >/dev/null 2>&1 || extra+=(nodejs)
+    command -v npm >/dev/null 2>&1 || extra+=(npm)
+    cardhaven_install "${CARDHAVEN_WEB_PACKAGES[@]}" "${extra[@]}"
+}
+
 # cardhaven_build DIR [CMAKE ARGS...]
 cardhaven_build() {
     local dir="$1"

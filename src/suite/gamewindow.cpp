@@ -464,7 +464,7 @@ void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face, 
     const std::pair<const char*, const char*> modal[] = {{"mnuRules", "frmRules"}, {"mnuAbout", "frmAbout"}};
     for (const auto& [menu, form] : modal)
         if (window.has(menu))
-            window.on(menu, Ev::Click, [w, form, messageLabel](EventArgs&) { ShowModalPaused(*w, form, messageLabel); });
+            window.on(menu, Ev::Click, [w, f = form, messageLabel](EventArgs&) { ShowModalPaused(*w, f, messageLabel); });
 }
 
 void BindWindowEvents(Form& window, std::function<void()> load, std::function<void()> resize,

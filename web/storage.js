@@ -1,0 +1,52 @@
+// The suite's files in the browser's persistent storage: one IndexedDB
+// record per file, its path as the key and its bytes as the value, each
+// write one transaction, so a file is old or new, never half written.
+const DB = 'cardhaven', STORE = 'files';
+
+function open() {
+  return new Promise((resolve, reject) => {
+    const request = indexedDB.open(DB, 1);
+    request.onupgradeneeded = () => request.result.createObjectStore(STORE);
+    request.onsuccess = () => resolve(request.result);
+    request.onerror = () => reject(request.error);
+  });
+}
+
+export class Storage {
+  async init() {
+    this.db = await open();
+    if (navigator.storage && navigator.storage.persist) navigator.storage.persist().catch(() => {});
+  }
+
+  // [[path, Uint8Array], ...]
+  all() {
+    return new Promise((resolve, reject) => {
+      const out = [];
+      const tx = this.db.transaction(STORE, 'readonly');
+      const cursor = tx.objectStore(STORE).openCursor();
+      cursor.onsuccess = () => {
+        const c = cursor.result;
+        if (!c) return resolve(out);
+        out.push([c.key, new Uint8Array(c.value)]);
+        c.continue();
+      };
+      cursor.onerror = () => reject(cursor.error);
+    });
+  }
+
+  // Resolves true once the bytes are stored, false when storage refused them.
+  write(path, bytes) {
+    return new Promise((resolve) => {
+      let tx;
+      try {
+        tx = this.db.transaction(STORE, 'readwrite');
+        tx.objectStore(STORE).put(bytes, path);
+      } catch (err) {
+        resolve(false);
+        return;
+      }
+      tx.oncomplete = () => resolve(true);
+      tx.onerror = tx.onabort = () => resolve(false);
+    });
+  }
+}

@@ -1,0 +1,177 @@
+// The web edition in a real headless Chromium: the suite comes up, every game
+// plays a stacked deal, blocking steps are seen as they happen while the page
+// answers, input reaches modal windows and message boxes, files survive a
+// reload, sound waits for the first click, and a visited page works offline.
+import assert from 'node:assert/strict';
+import {after, before, describe, test} from 'node:test';
+import {click, launch, menu, sel, startServer, text, waitText} from './harness.js';
+
+let server, browser, page;
+let best = '';  // the high score the Sumfall test makes
+
+before(async () => {
+  server = await startServer();
+  browser = await launch();
+  page = await browser.newPage();
+  await page.setViewport({width: 1280, height: 900});
+  page.on('pageerror', (e) => console.error(`page error: ${e.message}`));
+});
+
+after(async () => {
+  await browser?.close();
+  server?.stop();
+});
+
+const DEALS = [
+  // button, window, a stacked deck, a caption the deal shows
+  ['cmdSumfall', 'frmSumfall', '10C 6H 1C 8H 4H 9H 3H 6S 7H 5H 4S 5S 7S 1H 2H 10H 2S 9S 3S 8S 1S 10S 2C 1S 1S 1S 1H 1H 1H 1C 1C 1C 1D 1D 1D 1D 3C 4C 5C 6C 7C 8C 9C 2D 3D 4D 6D 7D 8D 10D 5D 9D',
+    'lblTime', /^Time: \d+$/],
+  ['cmdFivestack', 'frmFivestack', '13S 10S 10H 10C 10D 11S 11H 11C 11D 1S 6S 2S 3S 4S 5S 7S 8S 9S 12S 1H 2H 3H 4H 5H 6H 7H 8H 9H 12H 13H 1C 2C 3C 4C 5C 6C 7C 8C 9C 12C 13C 1D 2D 3D 4D 5D 6D 7D 8D 9D 12D 13D',
+    'StatusBar1', /bonus round/i],
+  ['cmdBlackrush', 'frmBlackrush', '10S 1S 10H 9H 5C 2S 3S 4S 5S 7S 2H 3H 4H 6H 1H 6C 4C 1D 6D 9D 8D 7D 6S 8S 9S 11S 12S 13S 5H 7H 8H 11H 12H 13H 1C 2C 3C 7C 8C 9C 10C 11C 12C 13C 2D 3D 4D 5D 10D 11D 12D 13D',
+    'StatusBar1', /Make 250,000 for bonus round\./],
+  ['cmdSpirehold', 'frmSpirehold', '2S 3S 4S 5S 6S 7S 8S 9S 10S 11S 12S 13S 1H 7H 8H 9H 10H 11H 2H 3H 4H 5H 6H 12H 13H 1C 2C 3C 4C 5C 6C 7C 8C 9C 10C 11C 12C 13C 1D 2D 3D 4D 5D 6D 7D 8D 9D 10D 11D 12D 13D 1S',
+    'StatusBar1', /Create runs by clicking on exposed cards!/],
+  ['cmdDuopick', 'frmDuopick', '7C 8C 11S 9C 10C 2C 6S 9S 10S 12H 3S 8S 8H 1D 13D 12S 2S 13H 13S 1S 1H 5D 5S 5H 5C 6H 11H 2D 3D 4D 6D 7D 8D 9D 10D 11D 12D 7S 1C 3C 4C 6C 11C 12C 13C 2H 3H 4H 7H 9H 10H 4S',
+    'cmdPlay', /^End Game$/],
+  ['cmdHandgrid', 'frmHandgrid', null, 'cmdPlay', /^End Game$/],
+  ['cmdTreyshift', 'frmTreyshift', '10C 2H 9S 4H 7S 7H 7D 4C 5D 6H 12S 13S 1S 2D 8H 9D 3C 11C 5S 1H 6S 13H 3D 8C 1C 1D 2S 2C 3S 3H 4S 4D 5H 5C 6C 6D 7C 8S 8D 9H 9C 10S 10H 10D 11S 11H 11D 12H 12C 12D 13C 13D',
+    'lblCardCount', /^Cards remaining: \d+$/],
+];
+
+describe('the suite in the page', () => {
+  test('the selector comes up with its caption and its game buttons', async () => {
+    await page.goto(`${server.url}?test`);
+    await page.waitForSelector(sel('frmSelect'), {visible: true, timeout: 20000});
+    assert.equal(await page.$eval(`${sel('frmSelect')} .caption`, (e) => e.textContent), "Quillmark's Card Haven");
+    assert.equal(await page.$eval(`${sel('frmSelect.frmGameChoice')} .legend`, (e) => e.textContent), 'Select your game');
+    for (const [button] of DEALS) await page.waitForSelector(sel(`frmSelect.${button}`), {visible: true});
+    // Sound waits for the first gesture: nothing has played yet.
+    const played = await page.evaluate(() => window.cardhaven.audio.requests.filter((r) => r.unlocked).length);
+    assert.equal(played, 0);
+  });
+
+  for (const [button, form, deck, control, caption] of DEALS) {
+    test(`${form} opens from the selector and deals a stacked deck`, async () => {
+      await click(page, `frmSelect.${button}`);
+      await page.waitForSelector(sel(form), {visible: true, timeout: 20000});
+      if (deck) await page.evaluate((d) => window.cardhaven.stack(d), deck);
+      await click(page, `${form}.cmdPlay`);
+      await waitText(page, `${form}.${control}`, caption, 20000);
+      // Closing the window goes back to the selector, with a question when a game runs.
+      await page.click(`${sel(form)} .titlebar .close`);
+      const asked = await page.waitForSelector('.msgbox', {timeout: 1500}).catch(() => null);
+      if (asked) await page.click('.msgbox .buttons button');
+      await page.waitForSelector(sel(form), {hidden: true, timeout: 20000});
+    });
+  }
+
+  test('audio was asked for only after the first click', async () => {
+    const requests = await page.evaluate(() => window.cardhaven.audio.requests);
+    assert.ok(requests.some((r) => r.wave && r.unlocked), JSON.stringify(requests.slice(0, 5)));
+    assert.ok(await page.evaluate(() => window.cardhaven.audio.context?.state !== undefined));
+  });
+
+  test('Sumfall: a count-up is seen step by step while the page answers, then a high score', async () => {
+    await click(page, 'frmSelect.cmdSumfall');
+    await page.evaluate((d) => window.cardhaven.stack(d), DEALS[0][2]);
+    await click(page, 'frmSumfall.cmdPlay');
+    await waitText(page, 'frmSumfall.lblTime', /^Time: \d+$/, 20000);
+    for (const i of [20, 21, 16, 17, 18, 19, 10, 12, 11, 7, 13, 15, 14, 5, 6, 3, 4, 8, 9, 1, 2]) {
+      await click(page, `frmSumfall.FieldCardPicture(${i})`);
+    }
+    // The last pair ends the round; the bonuses count up with pauses between
+    // steps, and the page draws frames all along.
+    const seen = page.evaluate(() => new Promise((resolve) => {
+      const find = (name) => document.querySelector(`.window[data-form="frmSumfall"] [data-name="${name}"]`);
+      const score = find('lblCurrentScore'), round = find('lblCurrentRound');
+      const values = new Set();
+      let frames = 0, longest = 0, last = performance.now();
+      const tick = () => {
+        const now = performance.now();
+        longest = Math.max(longest, now - last);
+        last = now;
+        frames++;
+        values.add(score.textContent);
+        if (round.textContent === '2') resolve({values: [...values], frames, longest});
+        else requestAnimationFrame(tick);
+      };
+      requestAnimationFrame(tick);
+    }));
+    await click(page, 'frmSumfall.FieldCardPicture(0)');
+    const {values, frames, longest} = await seen;
+    assert.ok(values.length > 5, `score values seen: ${values.join(' ')}`);
+    assert.ok(frames > values.length, `${frames} frames for ${values.length} values`);
+    assert.ok(longest < 500, `the page stopped for ${longest} ms`);
+
+    await page.waitForSelector(`${sel('frmSumfall.cmdTakeScore')}:not(:disabled)`, {timeout: 30000});
+    await menu(page, 'frmSumfall', 'mnuOptions', 'mnuDrawTimer');
+    await click(page, 'frmSumfall.cmdTakeScore');
+    // The name window is modal: the game window below takes no click.
+    await page.waitForSelector(sel('frmHiScoreName'), {visible: true, timeout: 20000});
+    assert.equal(await page.$eval('.modal-blocker', (e) => e.hidden), false);
+    await page.click(`${sel('frmHiScoreName')} [data-name="lblPlayerName"]`, {clickCount: 3});
+    await page.keyboard.type('Ann');
+    await click(page, 'frmHiScoreName.cmdOK');
+    await waitText(page, 'frmHighScores.ScoreList(0)', /^Ann$/);
+    best = await text(page, 'frmHighScores.ScoreList(1)');
+    assert.match(best, /^\d\d,\d00$/);
+    await click(page, 'frmHighScores.cmdDone');
+    await waitText(page, 'frmSumfall.lblHighScore', new RegExp(`^High Score: ${best}$`));
+  });
+
+  test('a message box takes its answer: No keeps the table', async () => {
+    await menu(page, 'frmSumfall', 'mnuOptions', 'mnuClear');
+    await page.waitForSelector('.msgbox', {visible: true});
+    assert.equal(await page.$eval('.msgbox .text', (e) => e.textContent), 'This will clear all High Scores. Are You Sure?');
+    assert.ok(await page.$('.msgbox .icon'));
+    const [yes, no] = await page.$$('.msgbox .buttons button');
+    assert.equal(await yes.evaluate((b) => b.textContent), 'Yes');
+    await no.click();
+    await page.waitForSelector('.msgbox', {hidden: true});
+    await waitText(page, 'frmSumfall.lblHighScore', new RegExp(`^High Score: ${best}$`));
+  });
+
+  test('the high score survives a reload', async () => {
+    await page.reload();
+    await click(page, 'frmSelect.cmdSumfall');
+    await waitText(page, 'frmSumfall.lblHighScore', new RegExp(`^High Score: ${best}$`), 20000);
+  });
+
+  test('a second tab says the suite is open elsewhere', async () => {
+    const second = await browser.newPage();
+    await second.goto(server.url);
+    await second.waitForFunction(() => /another tab/.test(document.getElementById('status').textContent),
+      {timeout: 10000});
+    assert.equal(await second.$('.window'), null);
+    await second.close();
+  });
+
+  test("the web site button gives the selector's own message when the browser refuses a new tab", async () => {
+    await page.goto(`${server.url}?test&nopopup`);
+    await click(page, 'frmSelect.cmdLaunchBrowser');
+    await page.waitForSelector('.msgbox', {visible: true});
+    assert.match(await page.$eval('.msgbox .text', (e) => e.textContent), /^Unable to open web page '.+'\.$/);
+    assert.ok(await page.$('.msgbox .icon.exclamation'));
+    await page.click('.msgbox .buttons button');
+  });
+
+  test('closing the selector ends the suite and leaves a page that starts it again', async () => {
+    await click(page, 'frmSelect.cmdClose');
+    await page.waitForSelector('#status button.again', {visible: true});
+    assert.equal(await page.$('.window'), null);
+    await page.click('#status button.again');
+    await page.waitForSelector(sel('frmSelect'), {visible: true, timeout: 20000});
+  });
+
+  test('the page starts and plays offline after one visit', async () => {
+    await page.waitForFunction(async () => (await navigator.serviceWorker.ready).active?.state === 'activated',
+      {timeout: 20000});
+    server.stop();
+    await page.reload();
+    await page.waitForSelector(sel('frmSelect'), {visible: true, timeout: 20000});
+    await click(page, 'frmSelect.cmdTreyshift');
+    await click(page, 'frmTreyshift.cmdPlay');
+    await waitText(page, 'frmTreyshift.lblCardCount', /^Cards remaining: \d+$/, 20000);
+  });
+});
