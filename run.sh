@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs what the suite needs, builds it into build/ and starts it.
 # Any arguments go to the program.
 #

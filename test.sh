@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs what the suite needs, builds it with AddressSanitizer and
 # UndefinedBehaviorSanitizer into build-test/, and runs every test.
 cd "$(dirname "$0")"

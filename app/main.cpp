@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // cardhaven [--home DIR] [--] [SAVED-GAME]
 // The desktop program: the Qt thread shows the windows and plays the sounds,
 // the logic runs on a thread of its own. Arguments that are not options form

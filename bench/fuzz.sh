@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # bench/fuzz.sh [EVENTS] [SEED] [FUZZ OPTIONS...]
 # Builds cardhaven-fuzz optimised (build-bench/, no sanitizers) and plays every
 # game with EVENTS random events (default 1000000), checking after each event;

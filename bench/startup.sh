@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # bench/startup.sh [RUNS] [BUILDDIR]
 # Measures the desktop program under a virtual X server, RUNS times (default 7),
 # and prints the median of each measure:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // node bench/web.mjs SITE RUNS: the web edition's measures (see bench/web.sh).
 import {spawn} from 'node:child_process';
 import fs from 'node:fs';

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # bench/web.sh [RUNS] [BUILDDIR]
 # Measures the web edition in a headless Chromium from a local server, RUNS
 # times (default 5), beside the desktop program measured in the same run

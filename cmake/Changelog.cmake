@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The package's changelog is the one place a release is written down: its
 # newest entry gives the program's version, and every entry becomes a release
 # in the AppStream metainfo with the same version, date and notes, so the two

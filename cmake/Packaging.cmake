@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The program's version on its command line, and for the desktop program what
 # `cmake --install` puts where and the Debian package CPack makes of it:
 #   games/cardhaven                                 the program, where a
@@ -13,6 +14,12 @@
 
 set_property(SOURCE app/main.cpp tools/script/main.cpp APPEND
              PROPERTY COMPILE_DEFINITIONS CARDHAVEN_VERSION="${PROJECT_VERSION}")
+
+# Every tracked source file names its licence (tools/spdx.sh adds the line).
+if(CARDHAVEN_TESTS)
+  add_test(NAME packaging.licence COMMAND ${PROJECT_SOURCE_DIR}/tests/packaging/licence.sh ${PROJECT_SOURCE_DIR})
+  set_tests_properties(packaging.licence PROPERTIES SKIP_RETURN_CODE 77)
+endif()
 
 if(NOT CARDHAVEN_QT)
   return()

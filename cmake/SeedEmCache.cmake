@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # cmake -DCACHE=DIR -P SeedEmCache.cmake
 # Copies the system's prebuilt Emscripten libraries into DIR once, so that a
 # fresh build tree does not spend minutes building them again.

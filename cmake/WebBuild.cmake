@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Drives the browser edition's Emscripten tree (build-*/web) from the main
 # build, and runs every scenario script a second time on the WebAssembly
 # driver under Node. Emscripten's cache lives in that tree, seeded from the

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Targets of the browser edition, built by Emscripten in a tree of their own
 # (see cmake/WebBuild.cmake, which drives this tree from the main one).
 #

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # tools/screenshot.sh [OUTDIR] [BUILDDIR]
 # Starts the desktop program under a virtual X server at pixel ratio 1 and 2,
 # drives it with a script (src/qt/driver.h) and writes PNGs into OUTDIR

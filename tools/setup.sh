@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Sourced by run.sh and test.sh: installs the Debian packages the build needs,
 # once, then configures and builds a tree. A second run installs nothing and
 # rebuilds only what changed.

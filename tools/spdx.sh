@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # tools/spdx.sh [--check]
 # Puts an SPDX-License-Identifier line at the top of every source file git
 # tracks that lacks one, in the file's own comment syntax: the first line, or
-# the second after a #! line or an XML declaration. The AppStream metainfo is
-# CC0-1.0, everything else GPL-3.0-or-later. Documents, pictures, saved games
-# the licence texts themselves and the CI entry point get none; a file of a kind not named here
+# the second after a #! line, an XML declaration or an HTML doctype. The AppStream metainfo is
+# CC0-1.0, everything else GPL-3.0-or-later. Documents, pictures, saved games,
+# JSON (which has no comments), the licence texts themselves and the CI entry
+# point get none; a file of a kind not named here
 # is reported, and the script fails, so that a new kind is decided on once.
 # With --check nothing is written: the files that lack the line are listed.
 set -euo pipefail
@@ -19,9 +21,11 @@ comment_for() {
         *.cpp | *.h) echo '// %s' ;;
         *.sh | *.cmake | */CMakeLists.txt | CMakeLists.txt | *.script | *.supp | *.desktop | .gitignore | */.gitignore)
             echo '# %s' ;;
-        *.xml | *.xml.in) echo '<!-- %s -->' ;;
+        *.xml | *.xml.in | *.html) echo '<!-- %s -->' ;;
+        *.js | *.mjs) echo '// %s' ;;
+        *.css) echo '/* %s */' ;;
         *.[1-9].in) echo '.\" %s' ;;
-        *.md | *.png | *.sfl | COPYING | packaging/changelog | packaging/copyright) echo '' ;;
+        *.md | *.png | *.sfl | *.json | *.webmanifest | COPYING | packaging/changelog | packaging/copyright) echo '' ;;
         .ci/*) echo '' ;;   # the CI service's entry point stays as that service wants it
         *) echo '?' ;;
     esac
@@ -54,7 +58,7 @@ while IFS= read -r file; do
     first=$(head -n 1 "$file")
     tmp=$(mktemp "$file.XXXXXX")
     case $first in
-        '#!'* | '<?xml'*) { printf '%s\n%s\n' "$first" "$line"; tail -n +2 "$file"; } >"$tmp" ;;
+        '#!'* | '<?xml'* | '<!DOCTYPE'*) { printf '%s\n%s\n' "$first" "$line"; tail -n +2 "$file"; } >"$tmp" ;;
         *) { printf '%s\n' "$line"; cat "$file"; } >"$tmp" ;;
     esac
     chmod --reference="$file" "$tmp"

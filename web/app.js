@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The page: starts the suite's worker with the files from storage, shows its
 // windows, plays its sounds, stores its writes and answers its requests.
 // Around the suite's windows, never inside them, it offers what only a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The suite's sounds through Web Audio. A browser starts audio only after a
 // gesture: until the first click or key, requests are kept (the music's
 // state, and the last wave of the past second) and played at the unlock.

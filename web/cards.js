@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The card pictures: every catalogue entry drawn at build time by the desktop
 // program's own card painter onto one sheet at 1x and one at 2x, thirteen to
 // a row in cells of 84 by 110 pixels. The page picks the sheet by its pixel ratio.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The page's half of the shared memory the suite's worker blocks on (see
 // src/web/bridge.js for the layout). Input goes into a queue of lines, one
 // event a line, and wakes the worker; answers to its requests go in a slot.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Draws the suite's windows as elements of the page from the model's
 // snapshots, and turns what the player does into input for the worker.
 // Positions are in twips, 15 to the pixel at design size; the frame of a

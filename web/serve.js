@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // node serve.js DIR [PORT]: serves the site folder on localhost with the
 // cross-origin isolation headers the suite's shared memory needs, gzipped
 // where the browser takes it. With CARDHAVEN_SERVE_LOG set it prints each

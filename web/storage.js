@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The suite's files in the browser's persistent storage: one IndexedDB
 // record per file, its path as the key and its bytes as the value, each
 // write one transaction, so a file is old or new, never half written.

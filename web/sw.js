@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The page's service worker: keeps every file of this version for offline
 // play, serves from that copy first, and adds the cross-origin isolation
 // headers that shared memory needs, so the page also runs on static hosts

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The suite's own thread: loads the WebAssembly module, fills its home folder
 // from the files the page read from storage, and runs the suite until its
 // last window closes. It blocks in Atomics.wait wherever the logic waits.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "games/games.h"
 
 #include "games/handgrid/frmHandgrid.h"

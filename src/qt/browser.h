@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The desktop's default web browser, asked before a page is opened, so that
 // "no browser" and "a browser that fails" are told apart.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pictures of the image catalogue, drawn by our own code at any size and
 // pixel ratio: 52 faces, four back designs in three forms each, the empty
 // place, the plain 76 by 100 picture, the Sumfall splash and the pointer.

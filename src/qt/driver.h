@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The debug driver of the desktop program (--script FILE): reads one command a
 // line and feeds it to the real windows with real waits, for screenshots, the
 // start-up benchmark and the tests that need a display.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The fonts the controls name, mapped to fonts a Linux desktop has, in pixel
 // sizes at 96 dots per inch so that text fits the layouts in twips.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The desktop platform. The logic runs on its own thread and sees this class
 // through ch::Platform; the Qt thread owns every widget and sound object. The
 // two meet only here: input events go one way through a queue, snapshots of

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Qt side of the windows: one top-level widget per loaded form, one child
 // widget per control, rebuilt from each snapshot the logic hands over. Input
 // goes back to the logic as InputEvents through `sink`; the renderer never

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A copy of what the windows show, taken on the logic thread where the model
 // would repaint and handed to the Qt thread, which never reads the model.
 #pragma once

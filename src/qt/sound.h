@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sound on the Qt thread: wave files through one single-channel player, where
 // a new sound cuts the one playing, and the MIDI tune through FluidSynth. No
 // audio object exists until the first request; without an output device or

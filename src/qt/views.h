@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The views of the controls: one Qt widget per control of a form, each
 // showing the control's properties from a snapshot and sending the player's
 // input back through the window it lies on. Labels, images, shapes, lines,

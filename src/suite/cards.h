@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Cards, the shared deck, the shuffle with its exact use of random numbers, and
 // the image catalogue whose keys "FULL", "BACK" and "HALF" follow the back design.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The shared variables of the suite: one copy for the whole program, read and
 // written by the selector, every game window and the shared routines.
 #pragma once

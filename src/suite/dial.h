@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The round dial and the two count-ups of a bonus.
 //
 // The dial is a pie on the window's picture surface `Surface` that fills

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading and writing whole text files. Every file the suite writes goes
 // through WriteFileAtomic: the text goes to a temporary file beside the target,
 // is flushed to the disk, and is then renamed over it, so a crash or a full

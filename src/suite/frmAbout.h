@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The About window: who makes and supports the games, and how long this game
 // window has been open. Opened modally through ShowModalPaused(*this, "frmAbout").
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Hall of Fame: the ten places of the table of the running game
 // (found by AppTitle) at the current time limit, and Sumfall's card goal.
 // Shown modally by the View High Scores entry and after a new place.

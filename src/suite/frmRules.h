@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules window: its text is composed anew at each opening from AppTitle
 // and the live settings of the running game, by the composer that game
 // registers under its title (the games register theirs in RegisterGameForms):

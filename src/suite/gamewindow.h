@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pieces every game window is built from. A game window is one class of
 // its own; it adds these controls to its layout and calls these routines from
 // its handlers, in its own order, so that its Play, pause, time-up and close

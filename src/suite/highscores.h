@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // High score tables: one ten-place table per game and time limit (and, for
 // Sumfall, per card goal), each a small text file in AppPath:
 //     "Quillmark, 50000" CR LF  ... ten lines ...  CR LF

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Placing labels by the width of their text: a label that takes the width of
 // its caption, and a label centred in a box of the board. Text widths come
 // from the platform, so that what the logic centres is centred on screen.

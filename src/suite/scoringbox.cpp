@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The check of one box of a custom scoring dialog on OK.
 #include "suite/scoringbox.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The check of one number box of a custom scoring dialog, as the dialogs
 // that keep their limits per box make it on OK. Each box is checked in turn,
 // and a failure in one does not stop the next:

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Settings files ("\Sumfall.Ini" ...): a section line in square brackets, its
 // value on the next line, an empty line; CR LF line ends.
 //

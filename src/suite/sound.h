@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sound effects and the background music, as requests to the platform.
 //
 // PlayWaveFile never looks at PlaySounds: every caller tests it first

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Start-up of the suite, shared by the desktop program and the headless driver.
 #pragma once
 

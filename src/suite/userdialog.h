@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The custom scoring dialogs' shared steps. The opening of a "User Options" dialog, as Handgrid's and Treyshift's
 // custom scoring dialogs read: centred, titled AppTitle + " User Options",
 // their frame frmScoringOptions and their note lblInfo captioned as they have

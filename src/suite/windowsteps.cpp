@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The steps every game window takes alike: menus, the pause button, Clear High Scores.
 #include "suite/windowsteps.h"
 

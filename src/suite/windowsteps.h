@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Small steps that every game window takes the same way, kept here once:
 // the menus of a window without Take Score, the pause button and the Clear
 // High Scores entry.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The worker's half of the browser platform (see webplatform.h), linked into
 // the module as a JavaScript library. Module.ch holds what the worker set up:
 //   ctl   Int32Array on shared memory: [0] input count, [1] queue lock,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The suite in the browser's worker: cardhaven-web [--test] [--command TEXT].
 // Settings, tables and saved games live in /home/cardhaven, a memory folder
 // the page fills from its persistent storage before the start and keeps in

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The snapshot of the windows as JSON, the form the page's renderer reads.
 // Controls whose revision the page already has are sent as {"key", "rev"}
 // alone, so that a count-up sends one label, not the whole window.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The browser platform. The suite runs in a Web Worker that really blocks: a
 // sleep, or a wait for input, is Atomics.wait on memory shared with the page,
 // so the logic keeps its single thread and blocking steps while the page

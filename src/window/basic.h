@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Conventions shared by every part of the suite: number parsing and formatting,
 // the integer conversions with their rounding and overflow rules, booleans, and
 // the run-time error that handlers catch where a message box shows its text.

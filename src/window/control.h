@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A named control of a form: its kind and every property the logic sets.
 // Setting a caption or text to a different value raises the control's Change
 // event at once; setting the same text raises nothing.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A window: caption, size and state, mouse pointer, and its controls, each found
 // by name, or by name and index in a control array. Event handlers are bound by
 // control name and event, so a window's file reads as its list of handlers.

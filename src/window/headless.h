@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The platform without a window system: a virtual clock that a sleep advances
 // at once, input and message box answers from a script, sounds, music and
 // message boxes recorded for the script to read.

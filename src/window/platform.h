@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the message loop needs from outside: the clock, the source of input
 // events, message boxes, sounds, music, text metrics and the screen. The Qt
 // platform gives real ones; the headless platform a virtual clock and a script.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The message loop of the one logic thread: forms and their lifetimes, timers,
 // blocking sleeps, DoEvents, modal forms and message boxes as nested loops, and
 // the dispatch of user input to the handlers of named controls.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A value as the driver reads it: a flag, a whole number, a fraction or a text.
 #pragma once
 

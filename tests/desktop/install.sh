@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # tests/desktop/install.sh BUILDDIR
 # Installs the build into a scratch prefix and checks that everything lands in
 # its usual place, and that the installed program finds its sounds there and

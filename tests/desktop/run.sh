@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # tests/desktop/run.sh PROGRAM SCRIPT
 # Runs the desktop program under a virtual X server with a driver script and
 # a fresh home folder. Passes when the program ends with status 0 and writes

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # replay.sh FUZZ SCRIPT DATA GAME SEED
 # A fuzz run's trail replays in the driver event for event: the run keeps its
 # trail, closed by expectations of the state it ended in, and the driver must

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # tests/packaging/command_line.sh PROGRAM SCRIPT-PROGRAM VERSION
 # The command lines of cardhaven and cardhaven-script, run without a display:
 # help and version print and succeed, a wrong option gets a short usage on

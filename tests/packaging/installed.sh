@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # tests/packaging/installed.sh SOURCEDIR OUTDIR
 # Unpacks the package tests/packaging/package.sh left in OUTDIR into a
 # scratch root and starts the program from there under a virtual X server, the

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # tests/packaging/lintian.sh OUTDIR
 # Debian's package checker on the package tests/packaging/package.sh left in
 # OUTDIR, at its most demanding: no error and no warning, and of the

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # tests/packaging/metadata.sh SOURCEDIR BUILDDIR
 # The files that present the program to a desktop and a distribution: the
 # .desktop file and the AppStream metainfo pass their validators, name the

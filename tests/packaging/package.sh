@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # tests/packaging/package.sh SOURCEDIR RELEASEDIR OUTDIR [COMPILER-LAUNCHER]
 # Configures (once) and builds the release tree RELEASEDIR from SOURCEDIR,
 # makes its Debian package into OUTDIR with CPack and checks what it holds,

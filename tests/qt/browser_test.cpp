@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Finding the desktop's browser: no browser and a browser found are told
 // apart by what the desktop says, before any page is opened.
 #include <gtest/gtest.h>

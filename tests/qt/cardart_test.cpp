@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The card pictures: every catalogue entry drawn at its size and pixel ratio,
 // faces in their suit's colour, and no two pictures alike.
 #include <gtest/gtest.h>

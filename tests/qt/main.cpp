@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tests of the desktop front end run on Qt's offscreen platform.
 #include <gtest/gtest.h>
 

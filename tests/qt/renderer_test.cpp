@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The renderer shows a snapshot of the model and sends the user's input back
 // as events; the platform carries events and snapshots between the threads.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The wave reader and the files the sound generator makes.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A one-round game window for the tests of the shared pieces, composed from
 // them as every game window is: cmdHit scores a hit, Take Score pays the hits
 // (AwardBonus) and the seconds left (CountTimeBonus), then the game ends

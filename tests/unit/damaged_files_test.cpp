@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Damaged, unreadable and missing files under every game window: a corpus
 // made from the files the game itself writes (cut at every byte, LF line
 // ends, random bytes, 10 MB, a 1 MB line, numbers beyond 32 bits and below

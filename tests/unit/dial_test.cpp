@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The dial at its edges and the step arithmetic of AwardBonus.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A double click: the whole gesture as a script gives it, or the second half
 // of one whose first click a real mouse already sent as a Click. Either way
 // the control sees Click then DblClick, and a button, which has no double

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The driver's output is a contract: these tests run the real binary.
 #include <gtest/gtest.h>
 

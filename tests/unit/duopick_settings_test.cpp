@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Duopick's settings file through the real driver: what a closing window
 // writes, what the next window reads back, and a damaged file.
 #include <gtest/gtest.h>

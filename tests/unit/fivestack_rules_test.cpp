@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fivestack's rules: card values, aces and their rescue of a column, the
 // Card Total Value table, the falling Time Bonus and the User Options check.
 #include <gtest/gtest.h>

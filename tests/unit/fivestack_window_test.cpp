@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Clicks a player makes while Fivestack sleeps through the flash of a lost
 // round arrive afterwards and change nothing.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The fuzzer's checks must catch what they are there for: a table that lost
 // an entry, a file that would not read back.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings sections every game shares, and the label centring of the
 // score and round boxes.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The shared steps of a game window's layout: its own places for the
 // standing controls, and the first step of its Resize.
 #include <gtest/gtest.h>

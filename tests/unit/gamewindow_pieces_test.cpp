@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Shared pieces of a game window that the games call in their own order:
 // the pause of a window whose messages stand in another label, a label
 // centred in its box, the design size kept, the time limit entries.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Shared steps of the game windows: a scoring box checked on OK, a step run
 // around a pause, and the guard of a resize.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Handgrid window run in the headless loop with a recorder of every
 // repaint: what the player sees while a round change holds the thread, and a
 // settings file whose overwrites outnumber the deck.

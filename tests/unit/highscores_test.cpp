@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // High score tables: file names, the reader on short, empty and damaged
 // files, and the high score label that a game window shows from them.
 #include <gtest/gtest.h>

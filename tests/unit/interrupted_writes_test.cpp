@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Writers killed at random moments: a child process writes a settings file, a
 // high score table or a saved game over and over, alternating two contents,
 // and is killed with SIGKILL. The file is then the one content or the other,

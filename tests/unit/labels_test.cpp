@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Labels placed by the width of their text.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The message loop: timer order, sleeps, modal loops, Change events, and what a
 // disabled or hidden control receives.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Settings files: the writer's form and order, and the reader on short,
 // empty and damaged files.
 #include <gtest/gtest.h>

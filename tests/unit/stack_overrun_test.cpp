@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The stack turned far past its end, tens of thousands of times in one
 // round, through the real driver: the index of the next card stops at the
 // top of its 16-bit range, and every further click is the same refused turn.

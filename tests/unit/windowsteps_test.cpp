@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The menus of a game window without Take Score, in their order.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What must hold after every event of a fuzz run, whatever the input was:
 // the files in the home folder read back whole, a high score table loses an
 // entry only to a newer score pushing it down or to Clear, and the score on

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // cardhaven-fuzz: plays the suite with seeded random input and checks after
 // every event what must always hold.
 //

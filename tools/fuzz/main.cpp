@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // cardhaven-fuzz --game NAME [--seed N] [--events N] [--data DIR] [--trail FILE] [--keep-trail] [--home DIR]
 // Plays one game of the suite with seeded random input on the headless
 // platform and checks after every event what must always hold. On a fault it

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Play toward big scores: states that random clicks never reach (near-perfect
 // grids, long chains of Trips) are where the scores run past their range.
 //

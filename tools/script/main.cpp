@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // cardhaven-script [--home DIR] [--data DIR] [--command TEXT] [--trace] [SCRIPT]
 // Runs the suite on the headless platform, driven by a script. Exit status:
 // 0 when every expectation held, 1 after any FAIL, 2 after an ERROR.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The script language of cardhaven-script: one command a line, read by the
 // message loop whenever it waits for input, so that a modal window opened in
 // the middle of a handler is filled in by the lines that follow.

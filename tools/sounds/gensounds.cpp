@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // cardhaven-sounds DIR
 // Writes the suite's thirteen sound effects (16-bit mono wave files) and its
 // tune "Quillmark.MID" into DIR. Everything is synthesised here from simple

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # tools/web/page-tests.sh SITE: runs web/tests in a headless Chromium against
 # the site folder, installing the tests' npm packages from the lock file
 # first. Exit 77 (skipped) where no Chromium can run, except in CI.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // node tools/web/screenshots.mjs SITE OUTDIR
 // The web edition's windows in a headless Chromium at pixel ratio 1 and 2:
 // the selector, and each game in play, as web-NAME.png and web-NAME-2x.png

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # tools/web/site.sh SITE CARDHAVEN WEBTREE DATA VERSION
 # Puts the web edition together in SITE: the page and its scripts, the
 # WebAssembly module, the card pictures at 1x and 2x drawn by the desktop

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Starts the site's server and a headless Chromium for the page tests, and
 // gives them the page's windows and controls by the suite's own names.
 import {spawn} from 'node:child_process';

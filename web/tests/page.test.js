@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The web edition in a real headless Chromium: the suite comes up, every game
 // plays a stacked deal, blocking steps are seen as they happen while the page
 // answers, input reaches modal windows and message boxes, files survive a

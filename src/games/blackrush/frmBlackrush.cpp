@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Blackrush window itself: its layout and menus, the wiring of its
 // events, loading and closing, the settings file, the resize plan and the
 // menu handlers. The board is in frmBlackrushBoard.cpp, the rounds in

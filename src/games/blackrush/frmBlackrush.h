@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Blackrush window: one deck played onto four columns against the clock.
 // A column of 21 or of five cards clears itself; a card that would bust a
 // column is not laid and costs 100 points. The 21 Counter takes the rising

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Blackrush board: Hit and Pass, aces and busts, laying a card, the 21s
 // and the Five Card Gimmes that clear a column, the deck pile, and what the
 // window shows of the board.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The user options dialog of Blackrush.
 #include "games/blackrush/frmBlackrushCustomScoring.h"
 

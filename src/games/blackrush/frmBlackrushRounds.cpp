@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Blackrush rounds: Play and End Game, pause, the round clock, the 21
 // Counter and its flash, the end of a round with its payouts, and the next
 // round, the bonus round or the end of the game.

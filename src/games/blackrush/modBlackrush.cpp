@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Blackrush's rules as plain functions: card points, aces, the pile, the 21
 // Counter, the round's payout line, the bonus round test and the checks of
 // the user options dialog.

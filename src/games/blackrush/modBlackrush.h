@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of Blackrush as plain data and functions: the scoring values and
 // their defaults, what a card counts on a column, the pile picture for a place
 // in the deck, the 21 Counter's step, the round's 21s payout, the bonus round

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules text of Blackrush, composed from the live values of its window
 // each time the rules window opens.
 #include "games/blackrush/frmBlackrush.h"

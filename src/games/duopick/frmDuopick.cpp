@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Duopick window itself: its layout and menus, the wiring of its events,
 // loading, closing and resizing, its settings file and its menu entries.
 #include "games/duopick/frmDuopick.h"

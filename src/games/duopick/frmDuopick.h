@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Duopick window: 23 cards face up in five overlapping rows, an up card
 // on its waste pile and the stack beside it. The player takes exposed cards
 // away two at a time as pairs and runs; everything is paid at the end of the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Duopick board: the deal, the clicks on the cards and on the stack, the
 // selection, and what the board shows.
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The User Options dialog of Duopick: its layout, the limits and messages of
 // its five boxes, and OK, Cancel and Default.
 #include "games/duopick/frmDuopickCustomScoring.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The User Options dialog of Duopick: the five scoring values and the
 // count-down switch. It writes the game's values box by box on OK, also
 // when a box fails its check; the settings file keeps them when the game

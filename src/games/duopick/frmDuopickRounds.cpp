@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rounds of Duopick: Play and End Game, pause, the round clock, the end
 // of a round with its awards, the next round or bonus round, and the end of
 // the game.

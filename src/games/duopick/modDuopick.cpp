@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Duopick's rules as data and arithmetic: the card places and the covering
 // table, pairs and runs, the stack's stages, and the awards of a round.
 #include "games/duopick/modDuopick.h"

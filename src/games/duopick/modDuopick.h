@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of Duopick as plain data and functions: the places of the 23
 // field cards and the up card, which two cards cover each field card, pairs
 // and runs, the stages of the stack picture, the order of the awards at the

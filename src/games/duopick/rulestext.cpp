@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Duopick's rules text, composed from the live settings each time the rules
 // window opens.
 #include "games/duopick/frmDuopick.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Fivestack window: its layout, its menus, the constructor that binds the
 // events, Form_Load, closing, resizing, the settings file and the menu
 // handlers. The board and the rounds live in frmFivestackBoard.cpp and

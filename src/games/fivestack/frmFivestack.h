@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Fivestack window: five columns of up to five cards, each filled by its
 // Hit button from the next card of a shuffled deck, aces 1 or 11. A Card
 // Total of 97 to 105 without a bust may be scored, by the Card Total Value

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Fivestack board: Hit and Pass, the aces and the bust test, the closing
 // of columns, the Card Total and its row in the Card Total Value table, and
 // what the board shows.

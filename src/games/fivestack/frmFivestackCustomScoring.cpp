@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The User Options dialog of Fivestack.
 #include "games/fivestack/frmFivestackCustomScoring.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fivestack's User Options: the bonus round score, the Time Bonus range, the
 // wait between rounds, the cards a player may pass and the count-down. The
 // values go to the game window field by field, also on an OK that fails;

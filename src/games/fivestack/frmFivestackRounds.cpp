@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Fivestack rounds: Play and End Game, pause, the round clock with its
 // falling Time Bonus, giving up and taking the score, the next round, the
 // bonus round and the end of the game.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of Fivestack: columns, aces, the Card Total Value table, the
 // Time Bonus and the User Options check.
 #include "games/fivestack/modFivestack.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of Fivestack as plain data and functions: card values, aces, the
 // play of a card on a column and the rescue of a column by its soft ace, the
 // Card Total Value table, the falling Time Bonus, the default settings, and

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules window's text of Fivestack, composed from the live settings of
 // its window (or the defaults when it isn't open).
 #include "games/fivestack/frmFivestack.h"

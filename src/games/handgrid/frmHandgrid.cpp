@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Handgrid window itself: its layout and menus, the wiring of its events,
 // loading, closing and resizing, the settings file and the menu handlers.
 #include "games/handgrid/frmHandgrid.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Handgrid window: a five by five grid filled card by card from the deck
 // through the hole; every row and column is a poker hand, and a grid filled
 // in time pays the value of its ten hands times the seconds left. Three rounds

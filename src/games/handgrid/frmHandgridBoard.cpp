@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Handgrid board: the 25 cells, the deck stack and the hole, a click on a
 // cell, the evaluation of the ten hands after each placement, and the labels
 // around the grid with the Change handlers that keep them centred.

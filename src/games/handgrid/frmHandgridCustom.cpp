@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Handgrid's user options dialog: twelve fields checked in order on OK, each
 // stored at once, a value out of range replaced by its put-back value with a
 // message, the focus left on the last field that failed.

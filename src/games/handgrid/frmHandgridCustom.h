@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Handgrid's user options: the nine hand values, the score for the bonus
 // round, the overwrites, the time bonus and the count-down switch. OK stores
 // each field as it checks it, also when another field fails.

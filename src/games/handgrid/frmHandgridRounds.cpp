@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Handgrid rounds: Play and End Game, pause, the round clock, and
 // NextRound, which pays a filled grid, announces the next round or the bonus
 // round, or ends the game.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Handgrid's rules: naming a poker hand in a line of five cells, the grid's
 // transposition, the tables of hand values, stack pictures and the scoring
 // dialog's fields.

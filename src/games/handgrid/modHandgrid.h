@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of Handgrid as plain data and functions: the ten poker hands with
 // their names and default points, how one line of five cells is named, the
 // transposition of the grid, the stack picture, the default settings and the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The text of Handgrid's rules window, composed at each opening from the
 // live settings of the game window (or the defaults when it is closed).
 #include "games/handgrid/frmHandgrid.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Spirehold window itself: its layout and menus, the constructor that
 // binds the events, loading, closing, resizing, the settings file and the
 // menu entries.

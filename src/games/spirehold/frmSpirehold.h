@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Spirehold window: 28 cards in three overlapping towers, an up card
 // beside a stack of 24 spare cards. The player clears the towers by runs one
 // rank up or down from the up card; each further card of a run is worth more.

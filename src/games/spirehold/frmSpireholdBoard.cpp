@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Spirehold's board: the deal, the legal move, the clicks on the tower
 // cards, the stack and the up card, the run labels, and what the board shows.
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Spirehold's custom scoring dialog: the layout, loading the values, Default,
 // Cancel and OK with its check of each field in turn.
 #include "games/spirehold/frmSpireholdCustom.h"

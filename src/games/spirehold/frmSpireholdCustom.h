@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Spirehold's custom scoring dialog: the five scoring values and the count
 // down switch. OK writes each value into the game window as it checks it,
 // also when a later one fails.

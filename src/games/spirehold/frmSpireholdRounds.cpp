@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Spirehold's rounds: Play and End Game, pause and resume, the round clock,
 // the end of a round with its awards in their order (time bonus, tower bonus,
 // high run bonus), the next round, the bonus round and the end of the game.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Spirehold's rules: the tower table, the neighbour rule, what a removal
 // turns over, the stack stages and the scoring checks.
 #include "games/spirehold/modSpirehold.h"

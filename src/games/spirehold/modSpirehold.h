@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of Spirehold as plain data and functions: the 28 places of the
 // three towers and which places cover which, the neighbour rule of the run
 // (King and Ace are neighbours both ways), which cards a removal turns over,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules text of Spirehold, composed from the live settings of its window
 // each time the rules window opens.
 #include "games/spirehold/frmSpirehold.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Saves the decks of the last finished game of Sumfall, so that it can be
 // replayed card for card later or by another player.
 #pragma once

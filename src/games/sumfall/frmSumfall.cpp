@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Sumfall window itself: its layout tables and menus, the wiring of its
 // events, loading, closing, resizing, the settings file and the menu
 // handlers. The board (deal, clicks, combinations, piles) is in

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Sumfall window: a field of 22 cards in six tiers, an up card pile and a
 // play pile. The player clicks exposed cards that total the card goal; two
 // rounds and, on a high enough score, a bonus round. Each procedure here

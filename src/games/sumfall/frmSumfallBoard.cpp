@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Sumfall board: the deck and the deal, the clicks on field cards, the up
 // card and the play pile, the combinations they make, and what the board
 // shows (selections, faces and backs, the card total).

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Edits Sumfall's four scoring values for as long as its window stays open.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Sumfall rounds: Play and End Game, pause and resume, the round clock
 // and its time-up, Take Score with its completion, combination and speed
 // bonuses, the second round, the bonus round, the end of the game, Replay

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of Sumfall as plain data and functions: the deck for each card
 // goal, the 22 field places with their tiers and offsets, which places cover
 // which, the selection colours, and the saved game file.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The text of Sumfall's rules window, composed from the live settings of the
 // open window each time the rules are opened.
 #include "games/sumfall/frmSumfall.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The drive, folder and file lists that the save and open dialogs share: the
 // folder list drives the file list, a click on a file copies its name to
 // txtGameName, and the path a dialog acts on is the folder plus that name.

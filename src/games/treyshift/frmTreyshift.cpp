@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Treyshift window itself: its layout and menus, the constructor that
 // wires the events, loading, closing, resizing, the settings file and the
 // menu handlers. The board is in frmTreyshiftBoard.cpp, the rounds in

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The Treyshift window: a storage of three slots at the top, four columns of
 // up to three cards in the middle and the deck with its fan of three up cards
 // at the bottom. The player moves one card at a time by two clicks; a column

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Treyshift's board: the deal and the deck, the clicks in the three zones,
 // the moves between them, the column scoring and what the board shows.
 // Much of the board's state is read back from its images: a slot shows a

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Treyshift's custom scoring dialog. OK checks every field in turn: a value
 // inside its range is stored at once, one outside is replaced by the limit it
 // passed, stored as well, and reported. The penalty is entered as a negative

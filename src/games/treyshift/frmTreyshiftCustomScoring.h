@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Treyshift's custom scoring dialog: the seven scoring values and the
 // count-down switch, written straight into the game's values field by field.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Treyshift's rounds: Play and End Game, pause, the round clock, Take Score
 // and the end of a round with its deck completion bonus, the removal of left
 // over cards and the speed bonus, then the next round, the bonus round or the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Treyshift's rules as plain functions: column scoring, the deck stack, the
 // stuck test, the end of a round and the checks of the custom scoring dialog.
 #include "games/treyshift/modTreyshift.h"

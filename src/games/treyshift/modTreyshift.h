@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of Treyshift as plain data and functions: how a column of three
 // cards scores (Trip, Run, flush Run) and what each pays with which sound,
 // the deck stack and card count, the stuck position, the end of a round, the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of Treyshift as the rules window shows them, composed from the
 // values in force: those of the open window, or the defaults.
 #include "games/treyshift/frmTreyshift.h"
