@@ -74,6 +74,28 @@ void RemoveStaleTemporaries(const std::string& path) {
     ::closedir(dir);
 }
 
+std::string& TopFolder() {
+    static std::string top;
+    return top;
+}
+
+// The absolute path with "." and ".." resolved and no trailing separator.
+std::string Normal(const std::string& path) {
+    std::error_code ec;
+    std::string normal = std::filesystem::absolute(path, ec).lexically_normal().string();
+    while (normal.size() > 1 && normal.back() == '/') normal.pop_back();
+    return normal;
+}
+
+// True when there is no top folder or `path` is the top folder or below it.
+bool UnderTop(const std::string& path) {
+    const std::string& top = TopFolder();
+    if (top.empty()) return true;
+    const std::string normal = Normal(path);
+    return normal == top || (normal.size() > top.size() && normal.compare(0, top.size(), top) == 0 &&
+                             (top == "/" || normal[top.size()] == '/'));
+}
+
 void SyncFolder(const std::string& path) {
     const int fd = ::open(FolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (fd < 0) return;
@@ -129,7 +151,7 @@ bool ReadWholeFile(const std::string& path, std::string& out, ReadOutcome* outco
 
 bool WriteFileAtomic(const std::string& path, const std::string& content) {
     const FileFault fault = FaultOf(path);
-    if (fault == FileFault::ReadOnly) return false;
+    if (fault == FileFault::ReadOnly || !UnderTop(FolderOf(path))) return false;
     struct stat old {};
     const bool exists = ::stat(path.c_str(), &old) == 0;
     if (exists && ::access(path.c_str(), W_OK) != 0) return false;
@@ -177,7 +199,10 @@ std::vector<std::string> ListFiles(const std::string& folder, const std::string&
     return List(folder, false, pattern.empty() ? "*" : pattern);
 }
 
+void SetTopFolder(const std::string& folder) { TopFolder() = folder.empty() ? folder : Normal(folder); }
+
 std::string ParentFolder(const std::string& folder) {
+    if (!TopFolder().empty() && Normal(folder) == TopFolder()) return folder;
     std::filesystem::path p(folder);
     if (p.has_relative_path() && !p.has_filename()) p = p.parent_path();  // a trailing separator
     const std::filesystem::path parent = p.parent_path();

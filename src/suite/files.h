@@ -49,7 +49,13 @@ void ClearFileFaults();
 // (letter case ignored), each sorted by name, hidden entries left out.
 std::vector<std::string> ListFolders(const std::string& folder);
 std::vector<std::string> ListFiles(const std::string& folder, const std::string& pattern);
-// The folder above, or the folder itself at the root.
+// The folder above, or the folder itself at the root or at the top folder.
 std::string ParentFolder(const std::string& folder);
+
+// A top folder that no file is written outside of and that the dialogs'
+// folder lists never climb above. The browser edition sets its home folder:
+// only that folder is kept in the browser's persistent storage, so a file
+// written anywhere else would be lost on reload. Empty, as it starts: no top.
+void SetTopFolder(const std::string& folder);
 
 }  // namespace ch

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "games/games.h"
+#include "suite/files.h"
 #include "suite/suite.h"
 #include "web/webplatform.h"
 #include "window/runtime.h"
@@ -25,6 +26,9 @@ int main(int argc, char** argv) {
         if (arg == "--test") testHooks = true;
         else if (arg == "--command" && i + 1 < argc) options.commandLine = argv[++i];
     }
+    // Nothing outside the home folder reaches persistent storage: the save
+    // and open dialogs stop there, and no file is written elsewhere.
+    ch::SetTopFolder(options.appPath);
     int status = 0;
     ch_mirror_files();
     {

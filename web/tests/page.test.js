@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The web edition in a real headless Chromium: the suite comes up, every game
 // plays a stacked deal, blocking steps are seen as they happen while the page
-// answers, input reaches modal windows and message boxes, files survive a
-// reload, sound waits for the first click, and a visited page works offline.
+// answers, input reaches modal windows and message boxes, files are saved
+// only where storage keeps them and survive a reload, sound waits for the
+// first click, and a visited page works offline.
 import assert from 'node:assert/strict';
 import {after, before, describe, test} from 'node:test';
 import {click, launch, menu, sel, startServer, text, waitText} from './harness.js';
@@ -133,10 +134,33 @@ describe('the suite in the page', () => {
     await waitText(page, 'frmSumfall.lblHighScore', new RegExp(`^High Score: ${best}$`));
   });
 
-  test('the high score survives a reload', async () => {
+  test('Sumfall saves a game only in the home folder, which storage keeps', async () => {
+    const items = (ref) => page.$$eval(`${sel(ref)} [data-i]`, (els) => els.map((e) => e.textContent));
+    const save = async (name) => {
+      await page.click(sel('frmSave.txtGameName'), {clickCount: 3});
+      await page.keyboard.type(name);
+      await click(page, 'frmSave.cmdOK');
+    };
+    await menu(page, 'frmSumfall', 'mnuFile', 'mnuSave');
+    await page.waitForSelector(sel('frmSave'), {visible: true});
+    // The home folder is the top: no way up out of it.
+    assert.deepEqual(await items('frmSave.Dir1'), []);
+    await save('../lost.sfl');
+    await page.waitForSelector('.msgbox', {visible: true});
+    assert.match(await page.$eval('.msgbox .text', (e) => e.textContent), /^Unable to save the file\./);
+    await page.click('.msgbox .buttons button');
+    await save('kept.sfl');
+    await page.waitForSelector(sel('frmSave'), {hidden: true});
+  });
+
+  test('the high score and the saved game survive a reload', async () => {
     await page.reload();
     await click(page, 'frmSelect.cmdSumfall');
     await waitText(page, 'frmSumfall.lblHighScore', new RegExp(`^High Score: ${best}$`), 20000);
+    // The game saved before the reload is still there to open.
+    await menu(page, 'frmSumfall', 'mnuFile', 'mnuOpen');
+    await waitText(page, 'frmOpen.File1', /^kept\.sfl$/);
+    await click(page, 'frmOpen.cmdCancel');
   });
 
   test('a second tab says the suite is open elsewhere', async () => {
