@@ -89,7 +89,7 @@ class Suite {
   async onMessage(m) {
     switch (m.t) {
       case 'snap':
-        this.renderer.apply(JSON.parse(m.b));
+        this.renderer.apply(JSON.parse(m.b), m.n);
         if (!this.drawn && document.querySelector('.window:not([hidden])')) {
           this.drawn = performance.now();
           document.body.dataset.drawn = String(Math.round(this.drawn));

@@ -8,13 +8,15 @@ export class Channel {
     this.ctl = new Int32Array(this.sab, 0, 8);
     this.buf = new Uint8Array(this.sab, 32);
     this.encoder = new TextEncoder();
+    this.sent = 0;  // lines queued so far; the worker counts the same lines
   }
 
-  // kind, form, control, index, text, key, value, width, height
+  // kind, form, control, index, text, key, value, width, height. Returns the
+  // line's number, or 0 when the queue was full and the line was dropped.
   send(kind, form = '', control = '', index = -1, text = '', key = 0, value = 0, width = 0, height = 0) {
     const clean = (s) => String(s).replace(/[\x1e\x1f]/g, ' ');
     const line = [kind, form, control, index < 0 ? '' : index, clean(text), key, value, width, height].join('\x1f');
-    this.sendLine(line);
+    return this.sendLine(line) ? this.sent : 0;
   }
 
   sendLine(line) {
@@ -26,6 +28,7 @@ export class Channel {
     if (fits) {
       this.buf.set(bytes, used);
       ctl[2] = used + bytes.length;
+      this.sent += 1;
     }
     Atomics.store(ctl, 1, 0);
     Atomics.add(ctl, 0, 1);

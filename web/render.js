@@ -76,7 +76,10 @@ export class Renderer {
     window.addEventListener('resize', () => this.fitAll());
   }
 
-  apply(forms) {
+  // `taken`: the number of the last input line the logic had taken when it
+  // made this snapshot.
+  apply(forms, taken = Infinity) {
+    this.taken = taken;
     const live = new Set();
     for (const f of forms) {
       live.add(f.name);
@@ -298,7 +301,7 @@ export class Renderer {
         } else {
           el = document.createElement('input');
           el.type = 'text';
-          el.addEventListener('input', () => this.sendControl(w, c, 'text', el.value));
+          el.addEventListener('input', () => { c.typed = this.sendControl(w, c, 'text', el.value); });
           el.addEventListener('focus', () => this.sendControl(w, c, 'focus'));
           el.addEventListener('click', () => this.sendControl(w, c, 'click'));
           el.addEventListener('keydown', (e) => {
@@ -401,8 +404,8 @@ export class Renderer {
 
   sendControl(w, c, kind, text = '', key = 0, value = 0) {
     const s = c.snap;
-    if (!s || !s.enabled || !s.visible) return;
-    this.send(kind, w.name, s.name, s.index, text, key, value);
+    if (!s || !s.enabled || !s.visible) return 0;
+    return this.send(kind, w.name, s.name, s.index, text, key, value);
   }
 
   applyControl(w, c, s) {
@@ -465,6 +468,11 @@ export class Renderer {
         if (el.tagName === 'TEXTAREA') {
           const text = s.text.replace(/\r\n/g, '\n');
           if (el.value !== text) el.value = text;
+        } else if (document.activeElement === el && c.typed > this.taken) {
+          // Made before the logic saw what the player has typed since: its
+          // text and selection are already out of date, and applying them
+          // would lose keystrokes. The next snapshot brings the text back.
+          c.selSerial = s.selSerial;
         } else if (document.activeElement !== el || el.value !== s.text && c.selSerial !== s.selSerial) {
           if (el.value !== s.text) el.value = s.text;
         }

@@ -41,6 +41,10 @@ mergeInto(LibraryManager.library, {
   ch_post: function (type, body) {
     postMessage({t: UTF8ToString(type), b: UTF8ToString(body)});
   },
+  // A snapshot, with the number of the last input line the logic has taken.
+  ch_post_snapshot: function (body, linesTaken) {
+    postMessage({t: 'snap', b: UTF8ToString(body), n: linesTaken});
+  },
   ch_request__deps: ['$chRequest'],
   ch_request: function (type, body) {
     return chRequest({t: UTF8ToString(type), b: UTF8ToString(body)});

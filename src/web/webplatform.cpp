@@ -19,6 +19,7 @@ char* ch_take_input();
 int ch_wait_input(int ms);
 int ch_sleep(int ms);
 void ch_post(const char* type, const char* body);
+void ch_post_snapshot(const char* body, double linesTaken);
 int ch_request(const char* type, const char* body);
 double ch_text_width(const char* text, int pixelSize, int bold);
 int ch_screen(int which);
@@ -108,6 +109,7 @@ void WebPlatform::drain() {
     std::free(taken);
     for (const std::string& line : Split(lines, '\x1e')) {
         if (line.empty()) continue;
+        ++linesRead_;
         // The test page stacks the next deal as the driver's `stack` does.
         if (line.rfind("stack\x1f", 0) == 0) {
             if (testHooks_) {
@@ -116,10 +118,11 @@ void WebPlatform::drain() {
                 for (std::string card; cards >> card;) order.push_back(card);
                 randomness::StackNextShuffle(order);
             }
+            linesTaken_ = linesRead_;
             continue;
         }
         InputEvent event;
-        if (ParseInputLine(line, event)) pending_.push_back(std::move(event));
+        if (ParseInputLine(line, event)) pending_.emplace_back(std::move(event), linesRead_);
     }
 }
 
@@ -135,7 +138,8 @@ WaitResult WebPlatform::wait(InputEvent& event, int64_t deadline, bool pollOnly)
         drain();
     }
     if (pending_.empty()) return WaitResult::Timeout;
-    event = std::move(pending_.front());
+    event = std::move(pending_.front().first);
+    linesTaken_ = pending_.front().second;
     pending_.pop_front();
     return WaitResult::Input;
 }
@@ -152,7 +156,7 @@ void WebPlatform::present(Runtime& runtime) {
     if (runtime.revision() == presented_) return;
     presented_ = runtime.revision();
     const std::string body = json_.write(*taker_.take(runtime));
-    ch_post("snap", body.c_str());
+    ch_post_snapshot(body.c_str(), static_cast<double>(linesTaken_));
 }
 
 void WebPlatform::playWave(const std::string& name) { ch_post("wave", JsonString(name).c_str()); }

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <utility>
 #include <string>
 
 #include "qt/snapshot.h"
@@ -48,7 +49,13 @@ private:
     void drain();
 
     bool testHooks_;
-    std::deque<InputEvent> pending_;
+    // Each queued event with its line's number; the page numbers the lines it
+    // sends the same way, and every snapshot says up to which line the logic
+    // has taken input, so the page can tell a snapshot older than what the
+    // player has just typed.
+    std::deque<std::pair<InputEvent, uint64_t>> pending_;
+    uint64_t linesRead_ = 0;
+    uint64_t linesTaken_ = 0;
     uint64_t presented_ = ~uint64_t{0};
     int loadedForms_ = 1;
     SnapshotTaker taker_;
