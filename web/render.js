@@ -757,12 +757,15 @@ export class Renderer {
       else this.closeMenus();
       return;
     }
-    if (e.altKey && letter && w.menuItems) {
-      const top = [...w.menubar.children].find((i) => i.mnemonic === letter && !i.hidden);
-      if (top) {
-        e.preventDefault();
-        this.openTopMenu(w, top, true);
-      }
+    if (e.altKey && letter) {
+      // A menu of the bar first, else the button, check or option button that
+      // shows the letter underlined.
+      const top = w.menuItems && [...w.menubar.children].find((i) => i.mnemonic === letter && !i.hidden);
+      const control = !top && [...w.controls.values()].find((c) => c.mnemonic === letter && c.snap.enabled &&
+        c.el.offsetParent !== null);
+      if (top) this.openTopMenu(w, top, true);
+      else if (control) this.sendControl(w, control, 'click');
+      if (top || control) e.preventDefault();
       return;
     }
     if (e.target.tagName === 'INPUT' && e.target.type === 'text') return;

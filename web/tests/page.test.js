@@ -160,6 +160,12 @@ describe('the suite in the page', () => {
     await page.keyboard.press('Enter');
     await page.waitForSelector('.msgbox', {hidden: true});
     await waitText(page, 'frmSumfall.lblHighScore', new RegExp(`^High Score: ${best}$`));
+    // Return takes the first entry; Alt and a button's letter press it.
+    await alt(page, 'KeyH');
+    await page.keyboard.press('Enter');
+    await page.waitForSelector(sel('frmRules'), {visible: true, timeout: 20000});
+    await alt(page, 'KeyO');
+    await page.waitForSelector(sel('frmRules'), {hidden: true, timeout: 20000});
   });
 
   test('Sumfall saves a game only in the home folder, which storage keeps', async () => {
