@@ -7,7 +7,7 @@
 import {Audio} from './audio.js';
 import {pointerCursor} from './cards.js';
 import {Channel} from './channel.js';
-import {Renderer} from './render.js';
+import {Renderer, setMnemonicText} from './render.js';
 import {Storage} from './storage.js';
 
 const HOME = '/home/cardhaven';
@@ -25,7 +25,8 @@ const firstDrawn = new Promise((resolve) => { markDrawn = resolve; });
 
 // ---- message boxes ------------------------------------------------------------
 const ICONS = {1: 'critical', 2: 'question', 3: 'exclamation', 4: 'information'};
-const BUTTONS = {0: [['OK', 0]], 1: [['OK', 0], ['Cancel', 1]], 2: [['Yes', 2], ['No', 3]]};
+const BUTTONS = {0: [['OK', 0]], 1: [['OK', 0], ['Cancel', 1]], 2: [['&Yes', 2], ['&No', 3]]};
+let closeMessageBox = null;
 
 function showMessageBox(box, answer) {
   const overlay = document.createElement('div');
@@ -43,28 +44,54 @@ function showMessageBox(box, answer) {
   if (ICONS[box.icon]) icon.classList.add(ICONS[box.icon]);
   else icon.remove();
   const buttons = BUTTONS[box.buttons] || BUTTONS[0];
-  const done = (value) => {
+  const close = () => {
     overlay.remove();
     document.removeEventListener('keydown', keys, true);
+    closeMessageBox = null;
+  };
+  const done = (value) => {
+    close();
     answer(value);
   };
+  const pressable = [];
   for (const [label, value] of buttons) {
     const b = el.querySelector('.buttons').appendChild(document.createElement('button'));
-    b.textContent = label;
+    b.mnemonic = setMnemonicText(b, label);
     b.addEventListener('click', () => done(value));
+    pressable.push(b);
   }
-  // Return and Space press the button with the focus; Escape gives the box's
-  // last answer (Cancel, No; OK in an OK-only box).
+  // Return and Space press the button with the focus (the first when the focus
+  // is elsewhere), the arrows move the focus between the buttons, Y and N
+  // answer Yes and No, and Escape gives the box's last answer (Cancel, No; OK
+  // in an OK-only box).
   const keys = (e) => {
-    if (e.key !== 'Escape') return;
+    const at = pressable.indexOf(document.activeElement);
+    const letter = /^Key[A-Z]$/.test(e.code) ? e.code.slice(3).toLowerCase() : e.key.toLowerCase();
+    const named = pressable.find((b) => b.mnemonic && b.mnemonic === letter);
+    if (e.key === 'Escape') {
+      done(buttons[buttons.length - 1][1]);
+    } else if (e.key === 'Enter' || e.key === ' ') {
+      done(buttons[Math.max(0, at)][1]);
+    } else if (/^Arrow/.test(e.key)) {
+      const n = pressable.length, step = e.key === 'ArrowLeft' || e.key === 'ArrowUp' ? -1 : 1;
+      pressable[(Math.max(0, at) + step + n) % n].focus();
+    } else if (e.key === 'Tab') {
+      // The focus goes round the box's buttons only.
+      const n = pressable.length;
+      pressable[(((at + (e.shiftKey ? -1 : 1)) % n) + n) % n].focus();
+    } else if (named && !e.ctrlKey && !e.metaKey) {
+      named.click();
+    } else {
+      return;
+    }
     e.preventDefault();
     e.stopPropagation();
-    done(buttons[buttons.length - 1][1]);
   };
   document.addEventListener('keydown', keys, true);
   overlay.style.zIndex = '1000000';
   desktop.append(overlay);
-  el.querySelector('.buttons button').focus();
+  pressable[0].focus();
+  closeMessageBox = close;
 }
 
 // ---- the suite ------------------------------------------------------------------
@@ -137,6 +164,8 @@ class Suite {
 
   finish() {
     this.worker.terminate();
+    this.renderer.detach();
+    if (closeMessageBox) closeMessageBox();
     desktop.textContent = '';
     audio.stopMusic();
     this.resolveEnded();
@@ -187,60 +216,118 @@ function pickFile(accept) {
   });
 }
 
-async function savedGames() {
-  return (await storage.all()).filter(([path]) => /\.sfl$/i.test(path));
+const inHome = (path) => path.slice(HOME.length + 1);
+const isSavedGame = (name) => /\.sfl$/i.test(name);
+const isTable = (name) => /^[\w .-]+\.txt$/i.test(name);
+
+function toBase64(bytes) {
+  let text = '';
+  for (const b of bytes) text += String.fromCharCode(b);
+  return btoa(text);
+}
+
+// The tables of an exported file, [[name, bytes], ...], or null when the file
+// is not one: every entry must be a table's name with its bytes in base64.
+function readTables(text) {
+  let tables;
+  try {
+    tables = JSON.parse(text);
+  } catch (err) {
+    return null;
+  }
+  if (!tables || typeof tables !== 'object' || Array.isArray(tables)) return null;
+  const out = [];
+  for (const [name, data] of Object.entries(tables)) {
+    if (!isTable(name) || typeof data !== 'string' || data.length > 1 << 20) return null;
+    try {
+      out.push([name, Uint8Array.from(atob(data), (c) => c.charCodeAt(0))]);
+    } catch (err) {
+      return null;
+    }
+  }
+  return out.length ? out : null;
+}
+
+// The suite's windows close, without their own questions, before the page
+// changes its files; it then starts again with what storage holds.
+async function stopSuite(question) {
+  if (!suite) return true;
+  if (!confirm(question)) return false;
+  suite.stop();
+  await suite.ended;
+  return true;
+}
+
+// A game opened from disk keeps its name, as a saved game of this browser
+// (.sfl added where it lacks it); a different game of that name already here
+// is kept, and the new one takes the next free name.
+function freeName(name, bytes, files) {
+  const stem = name.replace(/[^\w .-]/g, '_').replace(/^\.+/, '').replace(/\.sfl$/i, '') || 'saved';
+  for (let n = 1; ; n++) {
+    const candidate = `${stem}${n > 1 ? ` (${n})` : ''}.sfl`;
+    const same = files.find(([p]) => inHome(p).toLowerCase() === candidate.toLowerCase());
+    if (!same) return candidate;
+    if (same[1].length === bytes.length && same[1].every((b, i) => b === bytes[i])) return inHome(same[0]);
+  }
 }
 
 const actions = {
   async downloadGame() {
-    const games = await savedGames();
+    const games = (await storage.all()).filter(([p]) => isSavedGame(p));
     if (!games.length) return alert('There is no saved Sumfall game in this browser yet.');
-    const names = games.map(([p]) => p.slice(HOME.length + 1));
+    const names = games.map(([p]) => inHome(p));
     const choice = games.length === 1 ? names[0] : prompt(`Which saved game?\n${names.join('\n')}`, names[0]);
-    const game = games.find(([p]) => p.slice(HOME.length + 1) === choice);
+    const game = games.find(([p]) => inHome(p) === choice);
     if (game) download(choice.replace(/^.*\//, ''), game[1]);
+    else if (choice !== null) alert(`There is no saved game named ${choice}.`);
   },
   async openGame() {
     const file = await pickFile('.sfl');
     if (!file) return;
-    const name = file.name.replace(/[^\w .-]/g, '_');
-    const path = `${HOME}/${name}`;
-    if (!(await storage.write(path, new Uint8Array(await file.arrayBuffer())))) {
-      return alert('The browser refused to store the saved game.');
-    }
-    if (suite && !confirm('Card Haven starts again to open the saved game. Close the windows open now?')) return;
-    if (suite) {
-      suite.stop();
-      await suite.ended;
-    }
-    run(path);
+    const bytes = new Uint8Array(await file.arrayBuffer());
+    const path = `${HOME}/${freeName(file.name, bytes, await storage.all())}`;
+    const running = !!suite;
+    if (!(await stopSuite('Card Haven starts again to open the saved game. Close the windows open now?'))) return;
+    if (await storage.write(path, bytes)) return run(path);
+    alert('The browser refused to store the saved game.');
+    if (running) run('');
   },
   async exportTables() {
-    const tables = (await storage.all()).filter(([p]) => !/\.sfl$/i.test(p));
     const out = {};
-    for (const [path, bytes] of tables) out[path.slice(HOME.length + 1)] = btoa(String.fromCharCode(...bytes));
-    download('cardhaven-tables.json', JSON.stringify(out, null, 1), 'application/json');
+    for (const [path, bytes] of await storage.all()) if (isTable(inHome(path))) out[inHome(path)] = toBase64(bytes);
+    if (!Object.keys(out).length) return alert('There is no high score table in this browser yet.');
+    download('cardhaven-high-scores.json', JSON.stringify(out, null, 1), 'application/json');
   },
+  // The tables of the file replace those of the same names; the others stay.
   async importTables() {
-    const file = await pickFile('.json');
+    const file = await pickFile('.json,application/json');
     if (!file) return;
-    let tables;
-    try {
-      tables = JSON.parse(await file.text());
-    } catch (err) {
-      return alert('That file holds no Card Haven tables.');
+    const tables = readTables(await file.text());
+    if (!tables) return alert('That file holds no Card Haven high score tables.');
+    const running = !!suite;
+    if (!(await stopSuite('Card Haven starts again to take the imported tables. Close the windows open now?'))) return;
+    if (!(await storage.writeAll(tables.map(([name, bytes]) => [`${HOME}/${name}`, bytes])))) {
+      alert('The browser refused to store the tables: none was imported.');
+    } else {
+      alert(`${tables.length === 1 ? 'One table was' : `${tables.length} tables were`} imported.`);
     }
-    if (suite) return alert('Close Card Haven first: its windows would write over the imported tables.');
-    for (const [name, data] of Object.entries(tables)) {
-      if (!/^[\w .-]+$/.test(name) || /\.sfl$/i.test(name)) continue;
-      await storage.write(`${HOME}/${name}`, Uint8Array.from(atob(data), (c) => c.charCodeAt(0)));
-    }
-    alert('The tables were imported.');
+    if (running) run('');
   },
 };
+// What writes files is for the tab that runs the suite; the others may read.
+const WRITES = new Set(['openGame', 'importTables']);
+let holdsSuite = false;
+
+function act(name) {
+  if (storage.db === undefined) return alert('Card Haven has not started yet.');
+  if (WRITES.has(name) && !holdsSuite) {
+    return alert('Card Haven is open in another tab of this browser: do this there.');
+  }
+  return actions[name]();
+}
 
 async function main() {
-  document.querySelectorAll('[data-action]').forEach((b) => b.addEventListener('click', () => actions[b.dataset.action]()));
+  document.querySelectorAll('[data-action]').forEach((b) => b.addEventListener('click', () => act(b.dataset.action)));
   status.querySelector('button.again').addEventListener('click', () => run(''));
   if (!crossOriginIsolated) {
     // The service worker adds the isolation headers; the next load has them.
@@ -258,6 +345,8 @@ async function main() {
   // One tab at a time: a second one says so instead of writing the same files.
   const granted = await navigator.locks.request('cardhaven-suite', {ifAvailable: true}, async (lock) => {
     if (!lock) return false;
+    holdsSuite = true;
+    if (await takeNewVersion()) return true;
     await run('');
     await new Promise(() => {});  // the lock is held while the page lives
     return true;
@@ -269,8 +358,21 @@ async function main() {
   }
 }
 
-// A new version is fetched in the background and taken at the next start;
-// the player is told both times.
+// A new version is fetched in the background and waits beside the one
+// running; the next start takes it, and the player is told both times.
+async function takeNewVersion() {
+  const registration = await navigator.serviceWorker?.getRegistration();
+  if (!registration?.waiting || !navigator.serviceWorker.controller) return false;
+  const changed = new Promise((resolve) => {
+    navigator.serviceWorker.addEventListener('controllerchange', () => resolve(true), {once: true});
+    setTimeout(() => resolve(false), 5000);
+  });
+  registration.waiting.postMessage('take');
+  if (!(await changed)) return false;
+  location.reload();
+  return true;
+}
+
 function watchVersions() {
   const version = document.documentElement.dataset.version;
   const note = document.getElementById('update');
@@ -287,13 +389,13 @@ function watchVersions() {
       note.textContent = 'A new version of Card Haven is ready: it starts the next time you open the page.';
       note.hidden = false;
     };
-    if (registration.waiting && navigator.serviceWorker.controller) waiting();
-    registration.addEventListener('updatefound', () => {
-      const fresh = registration.installing;
-      fresh.addEventListener('statechange', () => {
-        if (fresh.state === 'installed' && navigator.serviceWorker.controller) waiting();
-      });
+    // The browser may have begun fetching it before this registration.
+    const watch = (fresh) => fresh?.addEventListener('statechange', () => {
+      if (fresh.state === 'installed' && navigator.serviceWorker.controller) waiting();
     });
+    if (registration.waiting && navigator.serviceWorker.controller) waiting();
+    watch(registration.installing);
+    registration.addEventListener('updatefound', () => watch(registration.installing));
   }).catch(() => {});
 }
 watchVersions();

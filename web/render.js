@@ -69,11 +69,20 @@ export class Renderer {
     this.blocker.hidden = true;
     desktop.append(this.blocker);
     this.openMenu = null;
-    document.addEventListener('pointerdown', (e) => {
-      if (this.openMenu && !this.openMenu.contains(e.target)) this.closeMenus();
-    });
-    document.addEventListener('keydown', (e) => this.onKey(e));
-    window.addEventListener('resize', () => this.fitAll());
+    this.menuActive = null;
+    this.listeners = [
+      [document, 'pointerdown', (e) => {
+        if (this.openMenu && !this.openMenu.contains(e.target)) this.closeMenus();
+      }],
+      [document, 'keydown', (e) => this.onKey(e)],
+      [window, 'resize', () => this.fitAll()],
+    ];
+    for (const [target, type, listener] of this.listeners) target.addEventListener(type, listener);
+  }
+
+  // The suite has ended: its windows take no more keys.
+  detach() {
+    for (const [target, type, listener] of this.listeners) target.removeEventListener(type, listener);
   }
 
   // `taken`: the number of the last input line the logic had taken when it
@@ -598,7 +607,10 @@ export class Renderer {
           lists.set(m.name, list);
           item.list = list;
           if (m.container) {
-            item.addEventListener('pointerenter', () => { list.hidden = item.classList.contains('disabled'); });
+            item.addEventListener('pointerenter', () => {
+              this.highlight(item);
+              list.hidden = item.classList.contains('disabled');
+            });
             item.addEventListener('pointerleave', () => { list.hidden = true; });
             item.addEventListener('click', (e) => {
               e.stopPropagation();
@@ -613,6 +625,7 @@ export class Renderer {
         } else {
           item.className = 'menu-item';
           item.setAttribute('role', 'menuitemcheckbox');
+          item.addEventListener('pointerenter', () => this.highlight(item));
           item.addEventListener('click', (e) => {
             e.stopPropagation();
             if (item.classList.contains('disabled')) return;
@@ -635,7 +648,8 @@ export class Renderer {
     }
   }
 
-  openTopMenu(w, item) {
+  // Opened from the keyboard, a menu shows its first entry highlighted.
+  openTopMenu(w, item, byKey = false) {
     this.closeMenus();
     if (item.classList.contains('disabled')) return;
     this.send('click', w.name, item.snap.name, item.snap.index);
@@ -643,6 +657,7 @@ export class Renderer {
     item.classList.add('open');
     this.openMenu = item;
     this.menuWindow = w;
+    if (byKey) this.highlight(this.entries(item.list)[0]);
   }
 
   closeMenus() {
@@ -650,6 +665,71 @@ export class Renderer {
     this.openMenu.querySelectorAll('.menu-list').forEach((l) => { l.hidden = true; });
     this.openMenu.classList.remove('open');
     this.openMenu = null;
+    this.highlight(null);
+  }
+
+  highlight(item) {
+    if (this.menuActive) this.menuActive.classList.remove('active');
+    this.menuActive = item || null;
+    if (item) item.classList.add('active');
+  }
+
+  // The entries of a menu list the keys move among: no separators, none hidden.
+  entries(list) {
+    return [...list.children].filter((i) => i.label && !i.hidden);
+  }
+
+  // The innermost list open: the top menu's, or an entry's menu shown inside it.
+  innermostList() {
+    const lists = [...this.openMenu.querySelectorAll('.menu-list')].filter((l) => l.offsetParent !== null);
+    return lists[lists.length - 1] || this.openMenu.list;
+  }
+
+  // Arrows move the highlight and go from menu to menu, Return chooses the
+  // highlighted entry, a letter the entry it underlines, Escape closes the
+  // innermost list.
+  menuKey(e, w, letter) {
+    const list = this.innermostList();
+    const inner = list !== this.openMenu.list;
+    const entries = this.entries(list);
+    const at = entries.indexOf(this.menuActive);
+    const enter = (item) => {
+      if (item.list) {
+        if (item.classList.contains('disabled')) return;
+        item.list.hidden = false;
+        this.highlight(this.entries(item.list)[0]);
+      } else {
+        item.click();
+      }
+    };
+    const leave = () => {
+      list.hidden = true;
+      this.highlight(list.parentElement);
+    };
+    const neighbour = (step) => {
+      const tops = [...w.menubar.children].filter((i) => !i.hidden && !i.classList.contains('disabled'));
+      const next = tops[(tops.indexOf(this.openMenu) + step + tops.length) % tops.length];
+      if (next) this.openTopMenu(w, next, true);
+    };
+    if (e.key === 'Escape') {
+      if (inner) leave();
+      else this.closeMenus();
+    } else if (e.key === 'ArrowDown' || e.key === 'ArrowUp') {
+      const step = e.key === 'ArrowDown' ? 1 : -1;
+      if (entries.length) this.highlight(entries[at < 0 ? (step > 0 ? 0 : entries.length - 1)
+        : (at + step + entries.length) % entries.length]);
+    } else if (e.key === 'ArrowRight') {
+      if (this.menuActive && this.menuActive.list && at >= 0) enter(this.menuActive);
+      else neighbour(1);
+    } else if (e.key === 'ArrowLeft') {
+      if (inner) leave();
+      else neighbour(-1);
+    } else if (e.key === 'Enter') {
+      if (at >= 0) enter(this.menuActive);
+    } else if (letter) {
+      const entry = entries.find((i) => i.mnemonic === letter);
+      if (entry) enter(entry);
+    }
   }
 
   activeWindow() {
@@ -661,32 +741,31 @@ export class Renderer {
     return top;
   }
 
-  // Alt and a letter opens a menu; in an open menu a letter chooses its entry,
-  // Escape closes it. Return and Escape elsewhere go to the control with the
-  // focus, or else to the window's first control that takes keys.
+  // Alt and a letter opens a menu (see menuKey for the keys of an open one).
+  // Return and Escape elsewhere go to the control with the focus, or else to
+  // the window's first control that takes keys.
   onKey(e) {
     if (document.querySelector('.msgbox:not([hidden])')) return;
     const w = this.activeWindow();
     if (!w) return;
-    const letter = e.key.length === 1 ? e.key.toLowerCase() : '';
+    // With Alt some keyboards give another character: the key's place names the letter.
+    const letter = e.altKey && /^Key[A-Z]$/.test(e.code) ? e.code.slice(3).toLowerCase()
+      : e.key.length === 1 ? e.key.toLowerCase() : '';
     if (this.openMenu) {
-      if (e.key === 'Escape') {
-        this.closeMenus();
-      } else if (letter) {
-        const lists = [...this.openMenu.querySelectorAll('.menu-list')].filter((l) => !l.hidden);
-        const list = lists[lists.length - 1] || this.openMenu.list;
-        const entry = [...list.children].find((i) => i.mnemonic === letter && !i.hidden);
-        if (entry) entry.click();
-      }
       e.preventDefault();
+      if (this.menuWindow === w) this.menuKey(e, w, letter);
+      else this.closeMenus();
       return;
     }
-    if (e.altKey && letter && w.menuItems) {
-      const top = [...w.menubar.children].find((i) => i.mnemonic === letter && !i.hidden);
-      if (top) {
-        e.preventDefault();
-        this.openTopMenu(w, top);
-      }
+    if (e.altKey && letter) {
+      // A menu of the bar first, else the button, check or option button that
+      // shows the letter underlined.
+      const top = w.menuItems && [...w.menubar.children].find((i) => i.mnemonic === letter && !i.hidden);
+      const control = !top && [...w.controls.values()].find((c) => c.mnemonic === letter && c.snap.enabled &&
+        c.el.offsetParent !== null);
+      if (top) this.openTopMenu(w, top, true);
+      else if (control) this.sendControl(w, control, 'click');
+      if (top || control) e.preventDefault();
       return;
     }
     if (e.target.tagName === 'INPUT' && e.target.type === 'text') return;

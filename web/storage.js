@@ -14,13 +14,22 @@ function open() {
 }
 
 export class Storage {
+  // A browser that refuses storage altogether (some private windows) leaves
+  // none: the suite then starts with no files, and every write fails as a
+  // write to a full disk does.
   async init() {
-    this.db = await open();
+    try {
+      this.db = await open();
+    } catch (err) {
+      this.db = null;
+      console.warn(`no storage: ${err}`);
+    }
     if (navigator.storage && navigator.storage.persist) navigator.storage.persist().catch(() => {});
   }
 
   // [[path, Uint8Array], ...]
   all() {
+    if (!this.db) return Promise.resolve([]);
     return new Promise((resolve, reject) => {
       const out = [];
       const tx = this.db.transaction(STORE, 'readonly');
@@ -37,12 +46,22 @@ export class Storage {
 
   // Resolves true once the bytes are stored, false when storage refused them.
   write(path, bytes) {
+    return this.writeAll([[path, bytes]]);
+  }
+
+  // [[path, Uint8Array], ...] in one transaction: all of them stored, or none.
+  writeAll(files) {
     return new Promise((resolve) => {
       let tx;
+      if (!this.db) {
+        resolve(false);
+        return;
+      }
       try {
         tx = this.db.transaction(STORE, 'readwrite');
-        tx.objectStore(STORE).put(bytes, path);
+        for (const [path, bytes] of files) tx.objectStore(STORE).put(bytes, path);
       } catch (err) {
+        try { tx?.abort(); } catch (ended) { /* nothing was stored */ }
         resolve(false);
         return;
       }

@@ -3,13 +3,18 @@
 // play, serves from that copy first, and adds the cross-origin isolation
 // headers that shared memory needs, so the page also runs on static hosts
 // that cannot send them. A new version installs beside the old one and is
-// taken when the page next starts.
+// taken when the page next starts (it asks for it then).
 const VERSION = '@VERSION@';
 const FILES = [@FILES@];
 const CACHE = `cardhaven-${VERSION}`;
 
 self.addEventListener('install', (event) => {
   event.waitUntil(caches.open(CACHE).then((cache) => cache.addAll(FILES)));
+});
+
+// The page asks a waiting version to take over when it starts.
+self.addEventListener('message', (event) => {
+  if (event.data === 'take') self.skipWaiting();
 });
 
 self.addEventListener('activate', (event) => {

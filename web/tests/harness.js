@@ -17,9 +17,10 @@ export function chromiumPath() {
   return null;
 }
 
-export async function startServer() {
-  const port = 18000 + (process.pid % 1000);
-  const server = spawn(process.execPath, [path.join(here, '..', 'serve.js'), site, String(port)],
+// A server of the site folder, or of another (`slot` gives each its own port).
+export async function startServer(root = site, slot = 0) {
+  const port = 18000 + (process.pid % 1000) + 1000 * slot;
+  const server = spawn(process.execPath, [path.join(here, '..', 'serve.js'), root, String(port)],
     {stdio: ['ignore', 'pipe', 'inherit']});
   await new Promise((resolve, reject) => {
     server.stdout.once('data', resolve);
@@ -34,7 +35,9 @@ export async function launch(extra = []) {
     executablePath: chromiumPath(),
     headless: true,
     userDataDir: profile,
-    args: ['--no-sandbox', '--disable-gpu', '--autoplay-policy=user-gesture-required', ...extra],
+    // No name resolves but localhost's: a page the suite opens fails at once, offline.
+    args: ['--no-sandbox', '--disable-gpu', '--autoplay-policy=user-gesture-required',
+      '--host-resolver-rules=MAP * ~NOTFOUND, EXCLUDE localhost', ...extra],
   });
   const close = browser.close.bind(browser);
   browser.close = async () => {
@@ -70,4 +73,103 @@ export async function click(page, ref) {
 export async function menu(page, form, top, entry) {
   await page.click(`${sel(form)} .menubar [data-name="${top}"] > span`);
   await page.click(`${sel(form)} .menubar [data-name="${entry}"]`);
+}
+
+// Taps the middle of a control on the touch screen.
+export async function tap(page, ref) {
+  const el = await page.waitForSelector(sel(ref), {visible: true, timeout: 15000});
+  const box = await el.boundingBox();
+  await page.touchscreen.tap(box.x + box.width / 2, box.y + box.height / 2);
+}
+
+// Alt and a key, as "KeyG".
+export async function alt(page, code) {
+  await page.keyboard.down('Alt');
+  await page.keyboard.press(code);
+  await page.keyboard.up('Alt');
+}
+
+// Every alert, confirm or prompt of the page is accepted (a prompt with its
+// suggestion); wait(pattern) gives the first message not yet waited for that
+// matches, once it has come.
+export function acceptDialogs(page) {
+  const messages = [];
+  const waiting = [];
+  const settle = () => {
+    for (const w of [...waiting]) {
+      const i = messages.findIndex((m) => w.pattern.test(m));
+      if (i < 0) continue;
+      w.resolve(messages.splice(i, 1)[0]);
+      waiting.splice(waiting.indexOf(w), 1);
+    }
+  };
+  page.on('dialog', async (d) => {
+    messages.push(d.message());
+    await d.accept(d.defaultValue());
+    settle();
+  });
+  return {
+    wait: (pattern) => new Promise((resolve) => {
+      waiting.push({pattern, resolve});
+      settle();
+    }),
+  };
+}
+
+// Resolves once the page runs a suite other than the one it runs now and has drawn it.
+export async function nextSuite(page) {
+  const old = await page.evaluateHandle(() => window.cardhaven.suite);
+  return () => page.waitForFunction((s) => window.cardhaven.suite !== s && window.cardhaven.suite?.drawn,
+    {timeout: 20000, polling: 50}, old);
+}
+
+// Clicks a button of the page's bar that asks for a file, and gives it `file`.
+export async function chooseFile(page, action, file) {
+  const [chooser] = await Promise.all([page.waitForFileChooser({timeout: 15000}),
+    page.click(`#bar [data-action="${action}"]`)]);
+  await chooser.accept([file]);
+}
+
+// Files the browser downloads go to a folder of their own; next() gives the
+// next one to complete, as {name, bytes}.
+export async function downloads(browser) {
+  const dir = fs.mkdtempSync(path.join(os.tmpdir(), 'cardhaven-downloads-'));
+  const cdp = await browser.target().createCDPSession();
+  await cdp.send('Browser.setDownloadBehavior', {behavior: 'allow', downloadPath: dir, eventsEnabled: true});
+  const names = new Map();
+  cdp.on('Browser.downloadWillBegin', (e) => names.set(e.guid, e.suggestedFilename));
+  return {
+    dir,
+    next: () => new Promise((resolve) => {
+      const progress = (e) => {
+        if (e.state !== 'completed') return;
+        cdp.off('Browser.downloadProgress', progress);
+        const name = names.get(e.guid);
+        resolve({name, bytes: fs.readFileSync(path.join(dir, name))});
+      };
+      cdp.on('Browser.downloadProgress', progress);
+    }),
+  };
+}
+
+// The files of the page's storage, {name in the home folder: bytes as text}.
+export async function storedFiles(page) {
+  return page.evaluate(() => new Promise((resolve, reject) => {
+    const request = indexedDB.open('cardhaven');
+    request.onerror = () => reject(request.error);
+    request.onsuccess = () => {
+      const out = {};
+      const cursor = request.result.transaction('files').objectStore('files').openCursor();
+      cursor.onsuccess = () => {
+        const c = cursor.result;
+        if (!c) {
+          request.result.close();
+          resolve(out);
+          return;
+        }
+        out[c.key.replace(/^.*\//, '')] = new TextDecoder().decode(c.value);
+        c.continue();
+      };
+    };
+  }));
 }

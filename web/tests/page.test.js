@@ -5,18 +5,25 @@
 // only where storage keeps them and survive a reload, sound waits for the
 // first click, and a visited page works offline.
 import assert from 'node:assert/strict';
+import fs from 'node:fs';
+import os from 'node:os';
+import path from 'node:path';
 import {after, before, describe, test} from 'node:test';
-import {click, launch, menu, sel, startServer, text, waitText} from './harness.js';
+import {acceptDialogs, alt, chooseFile, click, downloads, launch, menu, nextSuite, sel, site, startServer, storedFiles,
+  tap, text, waitText} from './harness.js';
 
-let server, browser, page;
+const repo = path.resolve(path.dirname(new URL(import.meta.url).pathname), '..', '..');
+let server, browser, page, dialogs, files;
 let best = '';  // the high score the Sumfall test makes
 
 before(async () => {
   server = await startServer();
   browser = await launch();
+  files = await downloads(browser);
   page = await browser.newPage();
   await page.setViewport({width: 1280, height: 900});
   page.on('pageerror', (e) => console.error(`page error: ${e.message}`));
+  dialogs = acceptDialogs(page);
 });
 
 after(async () => {
@@ -41,6 +48,14 @@ const DEALS = [
     'lblCardCount', /^Cards remaining: \d+$/],
 ];
 
+// Closing a game window asks first; Yes goes back to the selector.
+async function closeGame(form) {
+  await page.click(`${sel(form)} .titlebar .close`);
+  await page.waitForSelector('.msgbox', {visible: true, timeout: 20000});
+  await page.click('.msgbox .buttons button');
+  await page.waitForSelector(sel('frmSelect'), {visible: true, timeout: 20000});
+}
+
 describe('the suite in the page', () => {
   test('the selector comes up with its caption and its game buttons', async () => {
     await page.goto(`${server.url}?test`);
@@ -60,11 +75,7 @@ describe('the suite in the page', () => {
       if (deck) await page.evaluate((d) => window.cardhaven.stack(d), deck);
       await click(page, `${form}.cmdPlay`);
       await waitText(page, `${form}.${control}`, caption, 20000);
-      // Closing the window goes back to the selector, with a question when a game runs.
-      await page.click(`${sel(form)} .titlebar .close`);
-      const asked = await page.waitForSelector('.msgbox', {timeout: 1500}).catch(() => null);
-      if (asked) await page.click('.msgbox .buttons button');
-      await page.waitForSelector(sel(form), {hidden: true, timeout: 20000});
+      await closeGame(form);
     });
   }
 
@@ -122,16 +133,39 @@ describe('the suite in the page', () => {
     await waitText(page, 'frmSumfall.lblHighScore', new RegExp(`^High Score: ${best}$`));
   });
 
-  test('a message box takes its answer: No keeps the table', async () => {
-    await menu(page, 'frmSumfall', 'mnuOptions', 'mnuClear');
+  test('menus and a message box work from the keyboard: No keeps the table', async () => {
+    const open = () => page.$$eval(`${sel('frmSumfall')} .menu-title.open`, (els) => els.map((e) => e.dataset.name));
+    const active = () => page.$$eval(`${sel('frmSumfall')} .menu-item.active`, (els) => els.map((e) => e.dataset.name));
+    await alt(page, 'KeyG');
+    assert.deepEqual(await open(), ['mnuFile']);
+    assert.deepEqual(await active(), ['mnuPlay']);
+    await page.keyboard.press('ArrowRight');
+    assert.deepEqual(await open(), ['mnuOptions']);
+    await page.keyboard.press('Escape');
+    assert.deepEqual(await open(), []);
+    // Down to the entry, past any that are hidden, and Return chooses it.
+    await alt(page, 'KeyO');
+    const entries = await page.$$eval(`${sel('frmSumfall')} [data-name="mnuOptions"] > .menu-list > .menu-item`,
+      (els) => els.filter((e) => !e.hidden).map((e) => e.dataset.name));
+    for (let i = 0; i < entries.indexOf('mnuClear'); i++) await page.keyboard.press('ArrowDown');
+    assert.deepEqual(await active(), ['mnuClear']);
+    await page.keyboard.press('Enter');
     await page.waitForSelector('.msgbox', {visible: true});
-    assert.equal(await page.$eval('.msgbox .text', (e) => e.textContent), 'This will clear all High Scores. Are You Sure?');
-    assert.ok(await page.$('.msgbox .icon'));
-    const [yes, no] = await page.$$('.msgbox .buttons button');
-    assert.equal(await yes.evaluate((b) => b.textContent), 'Yes');
-    await no.click();
+    assert.deepEqual(await open(), []);
+    assert.equal(await page.$eval('.msgbox .text', (e) => e.textContent),
+      'This will clear all High Scores. Are You Sure?');
+    assert.equal(await page.$eval('.msgbox .buttons', (e) => e.textContent), 'YesNo');
+    // Yes has the focus; the arrow moves it to No, and Return presses No.
+    await page.keyboard.press('ArrowRight');
+    await page.keyboard.press('Enter');
     await page.waitForSelector('.msgbox', {hidden: true});
     await waitText(page, 'frmSumfall.lblHighScore', new RegExp(`^High Score: ${best}$`));
+    // Return takes the first entry; Alt and a button's letter press it.
+    await alt(page, 'KeyH');
+    await page.keyboard.press('Enter');
+    await page.waitForSelector(sel('frmRules'), {visible: true, timeout: 20000});
+    await alt(page, 'KeyO');
+    await page.waitForSelector(sel('frmRules'), {hidden: true, timeout: 20000});
   });
 
   test('Sumfall saves a game only in the home folder, which storage keeps', async () => {
@@ -163,6 +197,84 @@ describe('the suite in the page', () => {
     await click(page, 'frmOpen.cmdCancel');
   });
 
+  test('storage that refuses a write gets the save failure message, and nothing is lost', async () => {
+    const stored = await storedFiles(page);
+    await page.evaluate(() => {
+      window.put = IDBObjectStore.prototype.put;
+      IDBObjectStore.prototype.put = () => { throw new DOMException('The quota is used up.', 'QuotaExceededError'); };
+    });
+    await menu(page, 'frmSumfall', 'mnuFile', 'mnuSave');
+    await page.waitForSelector(sel('frmSave'), {visible: true});
+    await page.click(sel('frmSave.txtGameName'), {clickCount: 3});
+    await page.keyboard.type('refused.sfl');
+    await click(page, 'frmSave.cmdOK');
+    await page.waitForSelector('.msgbox', {visible: true});
+    assert.match(await page.$eval('.msgbox .text', (e) => e.textContent), /^Unable to save the file\./);
+    await page.click('.msgbox .buttons button');
+    await click(page, 'frmSave.cmdCancel');
+    await page.waitForSelector(sel('frmSave'), {hidden: true});
+    await page.evaluate(() => { IDBObjectStore.prototype.put = window.put; });
+    // The suite's files are as they were, in storage and in the open dialog.
+    assert.deepEqual(await storedFiles(page), stored);
+    await menu(page, 'frmSumfall', 'mnuFile', 'mnuOpen');
+    await waitText(page, 'frmOpen.File1', /^kept\.sfl$/);
+    await click(page, 'frmOpen.cmdCancel');
+    await page.waitForSelector(sel('frmOpen'), {hidden: true});
+  });
+
+  test('a saved game downloads as a file, and one from disk opens in Sumfall', async () => {
+    const downloaded = files.next();
+    await page.click('#bar [data-action="downloadGame"]');
+    const {name, bytes} = await downloaded;
+    assert.equal(name, 'kept.sfl');
+    assert.equal(bytes.toString('latin1'), (await storedFiles(page))['kept.sfl']);
+    // The suite starts again with the game the player chose.
+    const started = await nextSuite(page);
+    await chooseFile(page, 'openGame', path.join(repo, 'tests/scenarios/command/cleo.sfl'));
+    assert.match(await dialogs.wait(/starts again/), /Close the windows open now\?/);
+    await started();
+    await click(page, 'frmSelect.cmdSumfall');
+    await page.waitForSelector('.msgbox', {visible: true, timeout: 20000});
+    assert.match(await page.$eval('.msgbox .text', (e) => e.textContent), /^This game was saved by Cleo\./);
+    await page.keyboard.press('Enter');
+    await page.waitForSelector('.msgbox', {hidden: true});
+    assert.ok('cleo.sfl' in await storedFiles(page));
+  });
+
+  test('the high score tables go out to a file and come back in', async () => {
+    const exported = files.next();
+    await page.click('#bar [data-action="exportTables"]');
+    const {name, bytes} = await exported;
+    const tables = JSON.parse(bytes);
+    assert.ok(Object.keys(tables).every((t) => /\.Txt$/.test(t)), Object.keys(tables).join(' '));
+    assert.ok(Object.values(tables).some((t) => /Ann/.test(atob(t))));
+    // Cleared from the keyboard: Alt+O, the entry's letter, and Y for Yes.
+    await alt(page, 'KeyO');
+    await page.keyboard.press('c');
+    await page.waitForSelector('.msgbox', {visible: true});
+    await page.keyboard.press('y');
+    await waitText(page, 'frmSumfall.lblHighScore', new RegExp(`^High Score: (?!${best}$)`));
+    const started = await nextSuite(page);
+    await chooseFile(page, 'importTables', path.join(files.dir, name));
+    await dialogs.wait(/starts again/);
+    assert.match(await dialogs.wait(/imported/), /^(One table was|\d+ tables were) imported\.$/);
+    await started();
+    await click(page, 'frmSelect.cmdSumfall');
+    await waitText(page, 'frmSumfall.lblHighScore', new RegExp(`^High Score: ${best}$`), 20000);
+  });
+
+  test('a tap on a touch screen plays a card', async () => {
+    await page.setViewport({width: 1280, height: 900, hasTouch: true});  // and loads the page again
+    await tap(page, 'frmSelect.cmdSumfall');
+    await page.waitForSelector(sel('frmSumfall'), {visible: true, timeout: 20000});
+    await page.evaluate((d) => window.cardhaven.stack(d), DEALS[0][2]);
+    await tap(page, 'frmSumfall.cmdPlay');
+    await waitText(page, 'frmSumfall.lblTime', /^Time: \d+$/, 20000);
+    await tap(page, 'frmSumfall.FieldCardPicture(20)');
+    await tap(page, 'frmSumfall.FieldCardPicture(21)');
+    await waitText(page, 'frmSumfall.lblCurrentScore', /^[1-9]/);
+  });
+
   test('a second tab says the suite is open elsewhere', async () => {
     const second = await browser.newPage();
     await second.goto(server.url);
@@ -179,6 +291,32 @@ describe('the suite in the page', () => {
     assert.match(await page.$eval('.msgbox .text', (e) => e.textContent), /^Unable to open web page '.+'\.$/);
     assert.ok(await page.$('.msgbox .icon.exclamation'));
     await page.click('.msgbox .buttons button');
+  });
+
+  test('the web site button opens the address in a new tab, and the selector says nothing', async () => {
+    await page.goto(`${server.url}?test`);
+    await page.waitForSelector(sel('frmSelect'), {visible: true, timeout: 20000});
+    await page.evaluate(() => {
+      const open = window.open;
+      window.opened = [];
+      window.open = (...args) => {
+        window.opened.push(args[0]);
+        return open.apply(window, args);
+      };
+    });
+    const tab = browser.waitForTarget((t) => /^https?:/.test(t.url()) && !t.url().startsWith(server.url),
+      {timeout: 15000});
+    await click(page, 'frmSelect.cmdLaunchBrowser');
+    const opened = (await tab).url();
+    assert.deepEqual(await page.evaluate(() => window.opened), [opened]);
+    // The new tab came to the front; the player comes back to the suite.
+    await (await (await tab).page()).close();
+    await page.bringToFront();
+    // The selector goes on: a game opens, and no message box came before it.
+    await click(page, 'frmSelect.cmdTreyshift');
+    await page.waitForSelector(sel('frmTreyshift'), {visible: true, timeout: 20000});
+    assert.equal(await page.$('.msgbox'), null);
+    await closeGame('frmTreyshift');
   });
 
   test('closing the selector ends the suite and leaves a page that starts it again', async () => {
@@ -198,5 +336,36 @@ describe('the suite in the page', () => {
     await click(page, 'frmSelect.cmdTreyshift');
     await click(page, 'frmTreyshift.cmdPlay');
     await waitText(page, 'frmTreyshift.lblCardCount', /^Cards remaining: \d+$/, 20000);
+  });
+
+  test('a new version is fetched in the background, taken at the next start, and the player is told', async () => {
+    const copy = fs.mkdtempSync(path.join(os.tmpdir(), 'cardhaven-site-'));
+    fs.cpSync(site, copy, {recursive: true});
+    const other = await startServer(copy, 1);
+    const tab = await browser.newPage();
+    const note = (pattern) => tab.waitForFunction(
+      (p) => new RegExp(p).test(document.getElementById('update').textContent), {timeout: 30000, polling: 100},
+      pattern.source);
+    try {
+      await tab.goto(`${other.url}?test`);
+      await tab.waitForFunction(async () => (await navigator.serviceWorker.ready).active?.state === 'activated',
+        {timeout: 20000});
+      const version = await tab.$eval('html', (e) => e.dataset.version);
+      for (const name of ['index.html', 'sw.js']) {
+        const file = path.join(copy, name);
+        fs.writeFileSync(file, fs.readFileSync(file, 'utf8').replaceAll(version, `${version}-next`));
+      }
+      // The page that finds it goes on with the version it started with.
+      await tab.reload();
+      await note(/^A new version of Card Haven is ready/);
+      assert.equal(await tab.$eval('html', (e) => e.dataset.version), version);
+      await tab.reload();
+      await note(new RegExp(`^Card Haven was updated to version ${version}-next\\.$`));
+      await tab.waitForSelector(sel('frmSelect'), {visible: true, timeout: 20000});
+    } finally {
+      await tab.close();
+      other.stop();
+      fs.rmSync(copy, {recursive: true, force: true});
+    }
   });
 });
