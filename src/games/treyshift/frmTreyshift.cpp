@@ -140,12 +140,6 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
     // The messages and the flush word stand in front of the cards.
     for (const char* name : {"lblFlush", "lblScoring", "lblMessage"}) c(name).zOrderFront();
     ShowCards(false);
-    for (int i = 0; i < 3; ++i) c("TempCardSelection", i).setVisible(false);
-    for (int i = 0; i < kFieldSlots; ++i) {
-        c("PlayCardSelection", i).setVisible(false);
-        if (i >= 4) c("PlayCard", i).setVisible(false);
-    }
-    c("UpCardSelection").setVisible(false);
     ShowControls(false, true);
     c("lblHighScore").setVisible(true);
     PlaceBoard();
@@ -190,23 +184,23 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
     expose("DeckValue", Expose(DeckValue));
     expose("PenaltyValue", Expose(PenaltyValue));
     expose("BonusScore", Expose(BonusScore));
-    expose("DeckPosition", Expose(DeckPosition));
-    expose("Selected", Expose(Selected));
-    expose("SourceZone", Expose(SourceZone));
-    expose("SourceIndex", Expose(SourceIndex));
+    expose("DeckPosition", Expose(Board.deckPosition));
+    expose("Selected", Expose(Board.selected));
+    expose("SourceZone", Expose(Board.sourceZone));
+    expose("SourceIndex", Expose(Board.sourceIndex));
     expose("TripCount", Expose(TripCount));
     expose("RunCount", Expose(RunCount));
     expose("CurrentRound", Expose(CurrentRound));
-    const auto array = [](const auto& cards) {
-        return [&cards](int index, Value& out) {
-            if (index < 0 || index >= static_cast<int>(cards.size())) return false;
-            out = cards[static_cast<size_t>(index)];
+    const auto array = [](const auto& slots) {
+        return [&slots](int index, Value& out) {
+            if (index < 0 || index >= static_cast<int>(slots.size())) return false;
+            out = slots[static_cast<size_t>(index)].card;
             return true;
         };
     };
-    expose("FieldCards", array(FieldCards));
-    expose("TempCards", array(TempCards));
-    expose("UpCards", array(UpCards));
+    expose("FieldCards", array(Board.field));
+    expose("TempCards", array(Board.storage));
+    expose("UpCards", array(Board.fan));
 }
 
 // ---- Loading and closing ---------------------------------------------------------
@@ -297,7 +291,7 @@ void frmTreyshift::mnuTime_Click(const char* menu) {
 
 void frmTreyshift::mnuDeck_Click(int design) {
     ChooseBackDesign(*this, kDeckMenus[design - 1]);
-    c("CardStackPicture").setPicture(ImageList2().indexOf(StackKey(DeckPosition)));
+    c("CardStackPicture").setPicture(ImageList2().indexOf(StackKey(Board.deckPosition)));
     DeckDesign = static_cast<int16_t>(design);
 }
 
