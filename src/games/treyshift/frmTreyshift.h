@@ -17,6 +17,7 @@
 
 #include "games/treyshift/modTreyshift.h"
 #include "games/treyshift/modTreyshiftBoard.h"
+#include "suite/boardplaces.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
@@ -95,6 +96,8 @@ private:
     bool EndingRound = false;  // a round is being scored
     long RoundEnds = 0;        // rounds scored since the window was made
     SplashAnimation Splash;
+    BoardPlaces BoardMoves;
+    BoardPlaces RightColumn;
 };
 
 void RegisterTreyshift(Runtime& runtime);
