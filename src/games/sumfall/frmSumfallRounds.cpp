@@ -172,11 +172,7 @@ void frmSumfall::TakeScore() {
             const int32_t step = CompletionBonus / 10;
             for (int i = 0; i < 10; ++i) {
                 message.setForeColor(message.foreColor() == 255 ? 0 : 255);
-                AddToScore(step);
-                ShowScore();
-                runtime().refresh();
-                Wave("\\Snap.wav");
-                Sleep(75);
+                CountStep(*this, step);
             }
         } else {
             AddToScore(CompletionBonus);
@@ -197,13 +193,10 @@ void frmSumfall::TakeScore() {
         combinations.setForeColor(0xFFFF00);
         if (CountDownScore) {
             while (CombinationCount > 0) {
-                AddToScore(CombinationBonus);
-                ShowScore();
-                runtime().refresh();
-                CombinationCount -= 1;
-                combinations.setCaption(NumText(CombinationCount));
-                Wave("\\Snap.wav");
-                Sleep(75);
+                CountStep(*this, CombinationBonus, [&] {
+                    CombinationCount -= 1;
+                    combinations.setCaption(NumText(CombinationCount));
+                });
             }
         } else {
             AddToScore(static_cast<long long>(CombinationBonus) * CombinationCount);
@@ -233,16 +226,7 @@ void frmSumfall::TakeScore() {
             Sleep(1000);
             score.setForeColor(0);
         } else {
-            for (int second = ElapsedSeconds + 1; second <= TimeLimit; ++second) {
-                DrawTimeDial(DialAngle(ElapsedSeconds), *this);
-                DialSeconds = static_cast<int16_t>(second);
-                ElapsedSeconds += 1;
-                AddToScore(TimeBonus);
-                ShowScore();
-                runtime().refresh();
-                Wave("\\Snap.wav");
-                Sleep(75);
-            }
+            CountClockSeconds(*this, TimeBonus);
         }
     }
 
