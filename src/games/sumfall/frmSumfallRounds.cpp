@@ -9,6 +9,7 @@
 #include "suite/dial.h"
 #include "suite/files.h"
 #include "suite/highscores.h"
+#include "suite/roundsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -84,10 +85,7 @@ void frmSumfall::Play() {
 }
 
 void frmSumfall::cmdPause_Click() {
-    if (c("cmdPause").caption() == kPauseCaption)
-        PauseGame();
-    else
-        ResumeGame();
+    TogglePause(*this, [this] { PauseGame(); }, [this] { ResumeGame(); });
 }
 
 // A paused game cannot be studied: the selection goes and the cards are
@@ -133,15 +131,9 @@ void frmSumfall::Timer1_Timer() {
         EndOnError(RuntimeError(kErrOverflow, "Overflow"));
         return;
     }
-    AdvanceRoundClock(*this);
-    ShowTimeWarnings(*this);
-    if (ElapsedSeconds != TimeLimit) return;
-    c("Timer1").setEnabled(false);
+    if (!RoundClockRunsOut(*this)) return;
     DisableCommandButtons(true);
-    ShowTimesUp(*this);
-    BlinkLabel(c("lblMessage"), 10, 250);
-    cmdTakeScore_Click(false);
-    if (loaded() && c("lblMessage").caption() != kGameOver) c("lblMessage").setVisible(false);
+    TimesUpThenScore(*this, [this] { cmdTakeScore_Click(false); });
 }
 
 // The end of a round: completion, combinations and speed bonus in this order,

@@ -10,6 +10,7 @@
 #include "suite/common.h"
 #include "suite/dial.h"
 #include "suite/labels.h"
+#include "suite/roundsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -106,11 +107,8 @@ void frmTreyshift::cmdPause_Click() {
 // Time running out is no forfeit: the round is scored as if taken, with no
 // seconds left to pay.
 void frmTreyshift::Timer1_Timer() {
-    AdvanceRoundClock(*this);
-    ShowTimeWarnings(*this);
-    if (ElapsedSeconds != TimeLimit) return;
+    if (!RoundClockRunsOut(*this)) return;
     setMousePointer(11);
-    c("Timer1").setEnabled(false);
     for (int i = 0; i < kUpSlots; ++i) c("UpCard", i).setVisible(false);
     for (const char* name : {"UpCardSelection", "CardStackPicture", "lblCardCount"}) c(name).setVisible(false);
     Control& scoring = c("lblScoring");
