@@ -113,6 +113,24 @@ void DrawTimeDial(int angle, Form& window) {
     surface.drawCircle(DialCenterX, DialCenterY, r, DialLineColor);
 }
 
+void CountStep(Form& window, long long amount, const std::function<void()>& shown) {
+    AddToScore(amount);
+    ShowScore(window);
+    Repaint();
+    if (shown) shown();
+    if (PlaySounds) PlayWaveFile("\\Snap.wav");
+    Sleep(75);
+}
+
+void CountClockSeconds(Form& window, long long perSecond, const std::function<void()>& shown) {
+    for (int second = ElapsedSeconds + 1; second <= TimeLimit; ++second) {
+        DrawTimeDial(DialAngle(ElapsedSeconds), window);
+        DialSeconds = static_cast<int16_t>(second);
+        ElapsedSeconds += 1;
+        CountStep(window, perSecond, shown);
+    }
+}
+
 void CountTimeBonus(Form& window, long long bonusPerSecond, const TimeBonusOptions& options) {
     const long long stepPerSecond = bonusPerSecond * options.factor;
     long long left = static_cast<long long>(TimeLimit - ElapsedSeconds) * stepPerSecond;
@@ -133,19 +151,11 @@ void CountTimeBonus(Form& window, long long bonusPerSecond, const TimeBonusOptio
     Sleep(2000);
 
     if (CountDownScore) {
-        for (int second = ElapsedSeconds + 1; second <= TimeLimit; ++second) {
-            DrawTimeDial(DialAngle(ElapsedSeconds), window);
-            DialSeconds = static_cast<int16_t>(second);
-            ElapsedSeconds += 1;
-            AddToScore(stepPerSecond);
-            ShowScore(window);
-            Repaint();
+        CountClockSeconds(window, stepPerSecond, [&] {
             left -= stepPerSecond;
             scoring.setForeColor(0);
             scoring.setCaption(FormatScore(left));
-            if (PlaySounds) PlayWaveFile("\\Snap.wav");
-            Sleep(75);
-        }
+        });
     }
     AddToScore(left);
     ShowScore(window);
@@ -174,14 +184,11 @@ void AwardBonus(Form& window, const std::string& title, long long count, long lo
         // rounding of the step leaves it: the last step may overshoot.
         long long left = total;
         for (long long i = 1; step > 0 ? i <= total : i >= total; i += step) {
-            AddToScore(step);
-            ShowScore(window);
-            Repaint();
-            left -= step;
-            scoring.setForeColor(0);
-            scoring.setCaption(FormatScore(left));
-            if (PlaySounds) PlayWaveFile("\\Snap.wav");
-            Sleep(75);
+            CountStep(window, step, [&] {
+                left -= step;
+                scoring.setForeColor(0);
+                scoring.setCaption(FormatScore(left));
+            });
         }
     } else {
         AddToScore(total);

@@ -17,6 +17,7 @@
 // each step while no event is served.
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace ch {
@@ -36,6 +37,15 @@ void DrawTimeDial(int angle, Form& window);
 // The angle of a number of seconds of the round: 360 / TimeLimit * seconds,
 // rounded half to even. 0 for a limit of 0 or less, which never runs out.
 int DialAngle(int seconds);
+
+// One step of a counted bonus: the score grows by `amount` and is shown on
+// screen, `shown` runs (what it changes appears with the next step), then
+// "\Snap.wav" and 75 ms.
+void CountStep(Form& window, long long amount, const std::function<void()>& shown = {});
+
+// The seconds left in the round counted one at a time, each a CountStep of
+// `perSecond`, with the dial running on to the end of the round.
+void CountClockSeconds(Form& window, long long perSecond, const std::function<void()>& shown = {});
 
 // What varies between the games in the speed bonus count.
 struct TimeBonusOptions {

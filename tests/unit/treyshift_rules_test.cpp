@@ -85,18 +85,6 @@ TEST(TreyshiftDeck, StackThinsAsCardsAreTaken) {
     EXPECT_EQ(CardsRemainingText(56), "Cards remaining: -1");
 }
 
-TEST(TreyshiftRound, OnlyAFullStorageOverFourFullColumnsIsStuck) {
-    std::array<std::string, kTempSlots> temp = {" 1S", " 2S", " 3S"};
-    std::array<std::string, kFieldSlots> field;
-    for (int i = 8; i < kFieldSlots; ++i) field[static_cast<size_t>(i)] = " 9H";
-    EXPECT_TRUE(IsStuck(temp, field));
-    field[11] = "";
-    EXPECT_FALSE(IsStuck(temp, field));
-    field[11] = " 9H";
-    temp[1] = "";
-    EXPECT_FALSE(IsStuck(temp, field));
-}
-
 TEST(TreyshiftRound, TheBonusRoundTakesTheBonusScoreAfterRoundTwo) {
     EXPECT_FALSE(GameEndsAfter(1, 0, 100000));
     EXPECT_TRUE(GameEndsAfter(2, 99999, 100000));

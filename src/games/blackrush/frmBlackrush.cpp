@@ -222,7 +222,7 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
         const bool fixed = control->container() != "" || control->kind() == K::Timer || control->kind() == K::Menu ||
                            name == "StatusBar1" || name == "cmdPlay" || name == "cmdTakeScore" ||
                            name == "cmdPause" || name == "cmdExit";
-        if (!fixed) BoardPlaces.push_back({control.get(), control->left(), control->top()});
+        if (!fixed) BoardMoves.add(*control);
     }
 
     BindWindowEvents(
@@ -351,16 +351,10 @@ void frmBlackrush::Form_Resize() {
 }
 
 void frmBlackrush::PlaceBoard() {
-    const int dx = (width() - kDesignWidth) / 2;
-    const int dy = (height() - kDesignHeight) / 2;
-    for (const DesignPlace& place : BoardPlaces) {
-        place.control->setLeft(place.left + dx);
-        place.control->setTop(place.top + dy);
-    }
-    for (const char* button : {"cmdPlay", "cmdTakeScore", "cmdPause", "cmdExit"}) c(button).setLeft(width() - 1320);
-    const int clientWidth = width() - 120;
-    const int clientHeight = height() - 660;
-    c("StatusBar1").move(0, clientHeight - 330, clientWidth, 330);
+    const Offset at = CentredOffset(*this, kDesignWidth, kDesignHeight);
+    BoardMoves.shift(at.dx, at.dy);
+    KeepAtRightEdge(*this, {"cmdPlay", "cmdTakeScore", "cmdPause", "cmdExit"});
+    PlaceStatusBar(*this);
     lblTime_Change();
 }
 

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "games/blackrush/modBlackrush.h"
+#include "suite/boardplaces.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
@@ -100,12 +101,8 @@ private:
     bool QuitRequested = false;
     bool CounterWasRunning = false;  // Timer3 before a pause
     SplashAnimation Splash;
-    // Design places of the controls that move with the board on a resize.
-    struct DesignPlace {
-        Control* control;
-        int left, top;
-    };
-    std::vector<DesignPlace> BoardPlaces;
+    // The controls that move with the board on a resize.
+    BoardPlaces BoardMoves;
 };
 
 void RegisterBlackrush(Runtime& runtime);

@@ -8,6 +8,7 @@
 #include "suite/cards.h"
 #include "suite/common.h"
 #include "suite/dial.h"
+#include "suite/roundsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -26,11 +27,7 @@ constexpr int kBlue = 0xFF0000;
 // A score past its 32-bit range (a Gimme, the deck's bonus) ends the game.
 void frmBlackrush::cmdHit_Click(int index) {
     if (TakingScore) return;
-    try {
-        Hit(index);
-    } catch (const RuntimeError& error) {
-        EndOnError(error);
-    }
+    EndingOnError([&] { Hit(index); }, [this](const RuntimeError& error) { EndOnError(error); });
 }
 
 void frmBlackrush::Hit(int index) {

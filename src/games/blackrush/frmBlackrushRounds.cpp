@@ -7,6 +7,7 @@
 #include "suite/common.h"
 #include "suite/dial.h"
 #include "suite/highscores.h"
+#include "suite/roundsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -131,10 +132,7 @@ void frmBlackrush::PauseGame() {
 // ---- The clocks ---------------------------------------------------------------------------
 
 void frmBlackrush::Timer1_Timer() {
-    AdvanceRoundClock(*this);
-    ShowTimeWarnings(*this);
-    if (ElapsedSeconds != TimeLimit) return;
-    c("Timer1").setEnabled(false);
+    if (!RoundClockRunsOut(*this)) return;
     c("Timer3").setEnabled(false);
     ClearColumns();
     ShowMessage(kTimesUp, true);
@@ -175,11 +173,7 @@ void frmBlackrush::Timer5_Timer() {
 // A count past the score's 32-bit range ends the game.
 void frmBlackrush::cmdTakeScore_Click() {
     if (TakingScore) return;
-    try {
-        TakeScore();
-    } catch (const RuntimeError& error) {
-        EndOnError(error);
-    }
+    EndingOnError([this] { TakeScore(); }, [this](const RuntimeError& error) { EndOnError(error); });
 }
 
 // The platform's message for the error, then the game ends with the score

@@ -92,7 +92,15 @@ void RegisterDuopick(Runtime& runtime) {
 frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
     setSize(kDesignWidth, kDesignHeight);
     add(Layout());
+    for (auto part : {StandingControls(), TakeScoreButton(), ExitButton()})
+        for (const ControlSpec& item : part)
+            if (item.left >= kRightColumn && *item.container == '\0' && item.kind != K::Timer)
+                RightColumn.add(c(item.name));
     PlaceControls(*this, kMessages);
+    for (int i = 0; i <= kUpCard; ++i)
+        for (const char* name : {"PlayCard", "FieldSelectionRectangle"}) BoardMoves.addWithSize(c(name, i));
+    for (auto part : {std::span<const ControlSpec>(kBoard), std::span<const ControlSpec>(kMessages)})
+        for (const ControlSpec& item : part) BoardMoves.addWithSize(c(item.name));
     PrepareStandingControls(*this);
     SetGameTimers(*this);
     for (int i = 0; i <= kUpCard; ++i) {
@@ -215,28 +223,15 @@ void frmDuopick::Form_Resize() {
 }
 
 void frmDuopick::PlaceBoard() {
-    const int clientWidth = width() - 120;
     const int clientHeight = height() - 660;
-    const int dx = (width() - kDesignWidth) / 2;
-    const int dy = (height() - kDesignHeight) / 2;
-
+    const Offset at = CentredOffset(*this, kDesignWidth, kDesignHeight);
     Control& splash = c("frmSplash");
-    splash.setLeft((clientWidth - splash.width()) / 2);
-    splash.setTop(480 + dy);
-    for (auto part : {StandingControls(), TakeScoreButton(), ExitButton()})
-        for (const ControlSpec& item : part)
-            if (item.left >= kRightColumn && *item.container == '\0' && item.kind != K::Timer)
-                c(item.name).setLeft(item.left + width() - kStandingWidth);
-    c("StatusBar1").move(0, clientHeight - 330, clientWidth, 330);
+    splash.setLeft((width() - 120 - splash.width()) / 2);
+    splash.setTop(480 + at.dy);
+    RightColumn.shiftAcross(width() - kStandingWidth);
+    PlaceStatusBar(*this);
     c("lblHighScore").setTop(clientHeight - 330 - 255 - 50);
-
-    for (int i = 0; i <= kUpCard; ++i) {
-        const CardPlace& place = kPlaces[static_cast<size_t>(i)];
-        c("PlayCard", i).move(place.left + dx, place.top + dy, kCardWidth, kCardHeight);
-        c("FieldSelectionRectangle", i).move(place.left + dx, place.top + dy, kCardWidth, kCardHeight);
-    }
-    for (auto part : {std::span<const ControlSpec>(kBoard), std::span<const ControlSpec>(kMessages)})
-        for (const ControlSpec& item : part) c(item.name).move(item.left + dx, item.top + dy, item.width, item.height);
+    BoardMoves.shift(at.dx, at.dy);
 }
 
 // ---- Menus ----------------------------------------------------------------------------

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "games/duopick/modDuopick.h"
+#include "suite/boardplaces.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
@@ -92,6 +93,8 @@ private:
     bool RoundCompleted = false;
     int16_t CurrentRound = 1;
     SplashAnimation Splash;
+    BoardPlaces BoardMoves;   // the field and the board below it, at their design sizes
+    BoardPlaces RightColumn;  // the buttons and boxes at the right edge
 };
 
 void RegisterDuopick(Runtime& runtime);

@@ -7,6 +7,7 @@
 #include "suite/cards.h"
 #include "suite/common.h"
 #include "suite/dial.h"
+#include "suite/roundsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -89,10 +90,7 @@ void frmDuopick::InitRound() {
 // ---- Pause ------------------------------------------------------------------------------
 
 void frmDuopick::cmdPause_Click() {
-    if (c("cmdPause").caption() == kPauseCaption)
-        PauseGame();
-    else
-        ResumeGame();
+    TogglePause(*this, [this] { PauseGame(); }, [this] { ResumeGame(); });
 }
 
 // A paused game can't be studied: the cards and the selection leave the
@@ -121,31 +119,19 @@ void frmDuopick::ResumeGame() {
 // ---- The clock --------------------------------------------------------------------------
 
 void frmDuopick::Timer1_Timer() {
-    AdvanceRoundClock(*this);
-    ShowTimeWarnings(*this);
-    if (ElapsedSeconds != TimeLimit) return;
+    if (!RoundClockRunsOut(*this)) return;
     setMousePointer(11);
-    c("Timer1").setEnabled(false);
     ShowCards(false);
     // A half-made pair counts for nothing.
     ClearSelectionRectangles();
-    ShowTimesUp(*this);
-    BlinkLabel(c("lblMessage"), 10, 250);
-    raise(&c("cmdTakeScore"), Ev::Click);
-    if (!loaded()) return;
-    if (c("lblMessage").caption() != kGameOver) c("lblMessage").setVisible(false);
-    setMousePointer(0);
+    if (TimesUpThenScore(*this, [this] { raise(&c("cmdTakeScore"), Ev::Click); })) setMousePointer(0);
 }
 
 // ---- The end of a round ---------------------------------------------------------------
 
 void frmDuopick::cmdTakeScore_Click() {
     if (TakingScore) return;
-    try {
-        TakeScore();
-    } catch (const RuntimeError& error) {
-        EndOnError(error);
-    }
+    EndingOnError([this] { TakeScore(); }, [this](const RuntimeError& error) { EndOnError(error); });
 }
 
 // A run-time error in the end of a round (a score past its 32-bit range) is

@@ -156,6 +156,8 @@ void RegisterFivestack(Runtime& runtime) {
 frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
     setSize(kDesignWidth, kDesignHeight);
     add(Layout());
+    for (const ControlSpec& s : Layout())
+        if (!KeepsItsOwnPlace(s)) BoardMoves.add(c(s.name, s.index));
     PrepareStandingControls(*this);
     SetGameTimers(*this);
 
@@ -342,16 +344,10 @@ void frmFivestack::Form_Resize() {
 }
 
 void frmFivestack::PlaceBoard() {
-    const int dx = (width() - kDesignWidth) / 2;
-    const int dy = (height() - kDesignHeight) / 2;
-    for (const ControlSpec& s : Layout()) {
-        if (KeepsItsOwnPlace(s)) continue;
-        c(s.name, s.index).move(s.left + dx, s.top + dy, c(s.name, s.index).width(), c(s.name, s.index).height());
-    }
-    for (const char* button : {"cmdPlay", "cmdPause", "cmdQuit"}) c(button).setLeft(width() - 1320);
-    const int clientWidth = width() - 120;
-    const int clientHeight = height() - 660;
-    c("StatusBar1").move(0, clientHeight - 330, clientWidth, 330);
+    const Offset at = CentredOffset(*this, kDesignWidth, kDesignHeight);
+    BoardMoves.shift(at.dx, at.dy);
+    KeepAtRightEdge(*this, {"cmdPlay", "cmdPause", "cmdQuit"});
+    PlaceStatusBar(*this);
     ResizeColumnHeaders();
     CenterCardTotal();
     lblTotalScore_Change();

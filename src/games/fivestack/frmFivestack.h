@@ -17,6 +17,7 @@
 #include <string>
 
 #include "games/fivestack/modFivestack.h"
+#include "suite/boardplaces.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
@@ -110,6 +111,7 @@ private:
     bool Busted = false;
     bool Minimised = false;  // the clock was stopped by minimising the window
     SplashAnimation Splash;
+    BoardPlaces BoardMoves;  // all but the buttons, the status bar, menus and timers
 };
 
 void RegisterFivestack(Runtime& runtime);

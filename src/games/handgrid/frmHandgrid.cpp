@@ -112,6 +112,16 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
     setSize(kDesignWidth, kDesignHeight);
     add(Layout());
     PlaceControls(*this, kStandingPlaces);
+    // The grid, its row labels, the boxes and the deck move with the board;
+    // the buttons keep to the right edge, the status bar to the bottom.
+    for (int i = 0; i < kCells; ++i) BoardMoves.add(c("PlayCards", i));
+    for (int n = 1; n <= 5; ++n) BoardMoves.add(c("lblRow", n));
+    for (const ControlPlace& p : kStandingPlaces) {
+        const std::string name = p.name;
+        if (name.rfind("cmd", 0) != 0 && name != "StatusBar1") BoardMoves.add(c(name));
+    }
+    for (const ControlSpec& s : kBoard)
+        if (!*s.container && std::string(s.name) != "ScoringLabel") BoardMoves.add(c(s.name));
     PrepareStandingControls(*this);
     SetTimer(*this, "Timer1", 1000, false);
     SetTimer(*this, "Timer2", 200, true);
@@ -260,28 +270,15 @@ void frmHandgrid::Form_Resize() {
 }
 
 void frmHandgrid::PlaceBoard() {
-    const int dx = (width() - kDesignWidth) / 2;
-    const int dy = (height() - kDesignHeight) / 2;
-    const auto at = [&](Control& control, int left, int top) {
-        control.setLeft(left + dx);
-        control.setTop(top + dy);
-    };
-    for (int i = 0; i < kCells; ++i) at(c("PlayCards", i), kColumnLefts[i % 5], kRowTops[i / 5]);
+    const Offset at = CentredOffset(*this, kDesignWidth, kDesignHeight);
+    BoardMoves.shift(at.dx, at.dy);
+    // The column labels stand under the grid, centred on its lowest cards.
     for (int n = 1; n <= 5; ++n) {
-        at(c("lblRow", n), 5895, kRowLabelTops[n - 1]);
-        c("lblCol", n).setTop(5895 + dy);
+        c("lblCol", n).setTop(5895 + at.dy);
         lblCol_Change(n);
     }
-    for (const ControlPlace& p : kStandingPlaces) {
-        const std::string name = p.name;
-        if (name.rfind("cmd", 0) == 0 || name == "StatusBar1") continue;
-        at(c(name), p.left, p.top);
-    }
-    for (const ControlSpec& s : kBoard)
-        if (!*s.container && std::string(s.name) != "ScoringLabel") at(c(s.name), s.left, s.top);
-    for (const char* button : {"cmdPlay", "cmdPause", "cmdQuit"}) c(button).setLeft(width() - 1320);
-    const int clientHeight = height() - 690;
-    c("StatusBar1").move(0, clientHeight - 330, width() - 120, 330);
+    KeepAtRightEdge(*this, {"cmdPlay", "cmdPause", "cmdQuit"});
+    PlaceStatusBar(*this, 690);
     lblOverwrites_Change();
     lblCurrentScore_Change();
     lblRound_Change();

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "games/handgrid/modHandgrid.h"
+#include "suite/boardplaces.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
@@ -92,6 +93,7 @@ private:
     int16_t CurrentRound = 1;
     std::string StackKey = "FULL";
     SplashAnimation Splash;
+    BoardPlaces BoardMoves;
 };
 
 void RegisterHandgrid(Runtime& runtime);

@@ -114,27 +114,6 @@ std::vector<ControlSpec> Layout() {
     return specs;
 }
 
-// Everything but the buttons, the status bar and the big labels moves with
-// the board.
-struct BoardPlace {
-    const char* name;
-    int index;
-    int left, top;
-};
-std::vector<BoardPlace> BoardPlaces() {
-    std::vector<BoardPlace> places;
-    for (int i = 0; i < kTowerCards; ++i) {
-        const TowerPlace& p = kTowerPlaces[static_cast<size_t>(i)];
-        places.push_back({"UpCardImage", i, p.left, p.top});
-    }
-    for (const ControlSpec& s : kBoard) places.push_back({s.name, -1, s.left, s.top});
-    for (const ControlSpec& s : kPlaces) {
-        const std::string name = s.name;
-        if (name != "lblMessage" && name != "lblScoring") places.push_back({s.name, -1, s.left, s.top});
-    }
-    return places;
-}
-
 // The client area's height at the window's design size.
 constexpr int kDesignClientHeight = kDesignHeight - 660;
 
@@ -151,6 +130,15 @@ frmSpirehold::frmSpirehold(Runtime& runtime) : Form(runtime, "frmSpirehold") {
     add(Layout());
     PlaceControls(*this, kPlaces);
     PlaceControls(*this, kButtonPlaces);
+    // Everything but the buttons, the status bar and the big labels moves
+    // with the board; the buttons keep to the right edge.
+    for (int i = 0; i < kTowerCards; ++i) BoardMoves.add(c("UpCardImage", i));
+    for (const ControlSpec& spec : kBoard) BoardMoves.add(c(spec.name));
+    for (const ControlSpec& spec : kPlaces) {
+        const std::string name = spec.name;
+        if (name != "lblMessage" && name != "lblScoring") BoardMoves.add(c(spec.name));
+    }
+    for (const ControlSpec& button : kButtonPlaces) Buttons.add(c(button.name));
     PrepareStandingControls(*this);
     SetGameTimers(*this);
     c("cmdExit").setToolTipText("Exits the game");
@@ -252,12 +240,7 @@ void frmSpirehold::CheckForCustom() {
 // of the board keeps its shape around it; the buttons keep to the right edge
 // and the status bar to the bottom.
 void frmSpirehold::Form_Resize() {
-    if (windowState() == 1) return;
-    if ((width() < kDesignWidth || height() < kDesignHeight) && windowState() == 0) {
-        setSize(kDesignWidth, kDesignHeight);
-        return;
-    }
-    PlaceBoard();
+    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
 }
 
 void frmSpirehold::PlaceBoard() {
@@ -265,16 +248,9 @@ void frmSpirehold::PlaceBoard() {
     const int clientHeight = height() - 660;
     const int dx = (clientWidth - kCardWidth) / 2 - kTowerPlaces[1].left;
     const int dy = (clientHeight - kDesignClientHeight) / 2;
-    for (const BoardPlace& p : BoardPlaces()) {
-        Control& control = c(p.name, p.index);
-        control.setLeft(p.left + dx);
-        control.setTop(p.top + dy);
-    }
-    for (const ControlSpec& b : kButtonPlaces) {
-        c(b.name).setLeft(width() - 1320);
-        c(b.name).setTop(b.top + dy);
-    }
-    c("StatusBar1").move(0, clientHeight - 330, clientWidth, 330);
+    BoardMoves.shift(dx, dy);
+    Buttons.shift(width() - kDesignWidth, dy);
+    PlaceStatusBar(*this);
     // The count-ups centre lblScoring on the window's width; lblMessage
     // stands centred above it.
     for (const char* big : {"lblMessage", "lblScoring"}) {

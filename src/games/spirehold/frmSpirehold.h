@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "games/spirehold/modSpirehold.h"
+#include "suite/boardplaces.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
@@ -94,6 +95,8 @@ private:
     bool NewHighRun = false;
     int16_t CurrentRound = 1;
     SplashAnimation Splash;
+    BoardPlaces BoardMoves;
+    BoardPlaces Buttons;  // 1320 twips in from the right edge
 };
 
 void RegisterSpirehold(Runtime& runtime);

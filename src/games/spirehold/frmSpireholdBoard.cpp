@@ -8,6 +8,7 @@
 #include "suite/cards.h"
 #include "suite/common.h"
 #include "suite/dial.h"
+#include "suite/roundsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -67,11 +68,7 @@ bool frmSpirehold::CheckForLegalMove(int index) {
 
 void frmSpirehold::UpCardImage_Click(int index) {
     if (TakingScore) return;
-    try {
-        TakeCard(index);
-    } catch (const RuntimeError& error) {
-        EndOnError(error);
-    }
+    EndingOnError([&] { TakeCard(index); }, [this](const RuntimeError& error) { EndOnError(error); });
 }
 
 void frmSpirehold::TakeCard(int index) {

@@ -6,6 +6,7 @@
 #include "suite/cards.h"
 #include "suite/common.h"
 #include "suite/dial.h"
+#include "suite/roundsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -112,29 +113,17 @@ void frmSpirehold::cmdPause_Click() {
 // ---- The round clock -------------------------------------------------------------------
 
 void frmSpirehold::Timer1_Timer() {
-    AdvanceRoundClock(*this);
-    ShowTimeWarnings(*this);
-    if (ElapsedSeconds != TimeLimit) return;
+    if (!RoundClockRunsOut(*this)) return;
     setMousePointer(11);
-    c("Timer1").setEnabled(false);
     ShowCards(false, false);
-    ShowTimesUp(*this);
-    BlinkLabel(c("lblMessage"), 10, 250);
-    cmdTakeScore_Click();
-    if (!loaded()) return;
-    if (c("lblMessage").caption() != kGameOver) c("lblMessage").setVisible(false);
-    setMousePointer(0);
+    if (TimesUpThenScore(*this, [this] { cmdTakeScore_Click(); })) setMousePointer(0);
 }
 
 // ---- The end of a round ------------------------------------------------------------------
 
 void frmSpirehold::cmdTakeScore_Click() {
     if (TakingScore) return;
-    try {
-        TakeScore();
-    } catch (const RuntimeError& error) {
-        EndOnError(error);
-    }
+    EndingOnError([this] { TakeScore(); }, [this](const RuntimeError& error) { EndOnError(error); });
 }
 
 // A run-time error in play or in the end of a round (a count-up past its

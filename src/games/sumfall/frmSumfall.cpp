@@ -170,6 +170,22 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
     // The messages stand over the field.
     c("lblMessage").zOrderFront();
     SelectionColor(kDefaultSelectionColour);
+    // The field and the piles under it stand relative to a point that a
+    // resize keeps in proportion to the window; the piles and the card total
+    // follow the bottom row.
+    for (int i = 0; i < kFieldPlaces; ++i) {
+        const FieldPlace& place = kField[static_cast<size_t>(i)];
+        for (const char* name : {"FieldCardPicture", "FieldSelectionRectangle"})
+            BoardMoves.add(c(name, i), place.dx, place.dy, kCardWidth, kCardHeight);
+    }
+    constexpr int kPileTop = 2500 + 600;
+    BoardMoves.add(c("PlayCardPicture"), -1440, kPileTop, kCardWidth, kCardHeight);
+    BoardMoves.add(c("UpCardPicture"), 1440, kPileTop, kCardWidth, kCardHeight);
+    BoardMoves.add(c("UpCardSelectionRectangle"), 1440, kPileTop, kCardWidth, kCardHeight);
+    BoardMoves.add(c("lblTotal"), -150, kPileTop + 60, 1365, 255);
+    BoardMoves.add(c("CardTotalRectangle"), 75, kPileTop + 360, 915, 450);
+    BoardMoves.add(c("CardTotalBevelSide"), 1005, kPileTop + 375, 0, 450);
+    BoardMoves.add(c("CardTotalBevelBottom"), 90, kPileTop + 825, 915, 0);
     PlaceBoard();
 
     BindWindowEvents(
@@ -324,27 +340,14 @@ void frmSumfall::PlaceBoard() {
     Control& splash = c("frmSplash");
     splash.setLeft((clientWidth - splash.width()) / 2);
     splash.setTop(1440);
-    for (const char* button : {"cmdPlay", "cmdTakeScore", "cmdPause", "cmdExit"}) c(button).setLeft(width() - 1320);
-    Control& bar = c("StatusBar1");
-    bar.move(0, clientHeight - 330, clientWidth, 330);
+    KeepAtRightEdge(*this, {"cmdPlay", "cmdTakeScore", "cmdPause", "cmdExit"});
+    PlaceStatusBar(*this);
 
     const int x = CLng(width() / 2.208333333333);
     const int y = CLng(height() / 5.142857142857);
-    for (int i = 0; i < kFieldPlaces; ++i) {
-        const FieldPlace& place = kField[static_cast<size_t>(i)];
-        c("FieldCardPicture", i).move(x + place.dx, y + place.dy, kCardWidth, kCardHeight);
-        c("FieldSelectionRectangle", i).move(x + place.dx, y + place.dy, kCardWidth, kCardHeight);
-    }
-    // The piles and the card total follow the bottom row, the card count
-    // stands above the status bar.
+    BoardMoves.shift(x, y);
+    // The card count stands above the status bar.
     const int pileTop = y + 2500 + 600;
-    c("PlayCardPicture").move(x - 1440, pileTop, kCardWidth, kCardHeight);
-    c("UpCardPicture").move(x + 1440, pileTop, kCardWidth, kCardHeight);
-    c("UpCardSelectionRectangle").move(x + 1440, pileTop, kCardWidth, kCardHeight);
-    c("lblTotal").move(x - 150, pileTop + 60, 1365, 255);
-    c("CardTotalRectangle").move(x + 75, pileTop + 360, 915, 450);
-    c("CardTotalBevelSide").move(x + 1005, pileTop + 375, 0, 450);
-    c("CardTotalBevelBottom").move(x + 90, pileTop + 825, 915, 0);
     c("lblCardCount").move(x - 150, std::min(pileTop + 960, clientHeight - 330 - 255 - 50), 1365, 255);
     CentreLabelIn(*this, "lblCurrentTotal", "CardTotalRectangle");
     lblMessage_Change();

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "games/sumfall/modSumfall.h"
+#include "suite/boardplaces.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
@@ -142,6 +143,7 @@ private:
     // Sumfall counts its scores visibly by a switch of its own, not the shared one.
     bool CountDownScore = true;
     SplashAnimation Splash;
+    BoardPlaces BoardMoves;  // relative to the point the window's size gives
 };
 
 void RegisterSumfall(Runtime& runtime);

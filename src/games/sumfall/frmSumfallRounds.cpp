@@ -9,6 +9,7 @@
 #include "suite/dial.h"
 #include "suite/files.h"
 #include "suite/highscores.h"
+#include "suite/roundsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -84,10 +85,7 @@ void frmSumfall::Play() {
 }
 
 void frmSumfall::cmdPause_Click() {
-    if (c("cmdPause").caption() == kPauseCaption)
-        PauseGame();
-    else
-        ResumeGame();
+    TogglePause(*this, [this] { PauseGame(); }, [this] { ResumeGame(); });
 }
 
 // A paused game cannot be studied: the selection goes and the cards are
@@ -133,15 +131,9 @@ void frmSumfall::Timer1_Timer() {
         EndOnError(RuntimeError(kErrOverflow, "Overflow"));
         return;
     }
-    AdvanceRoundClock(*this);
-    ShowTimeWarnings(*this);
-    if (ElapsedSeconds != TimeLimit) return;
-    c("Timer1").setEnabled(false);
+    if (!RoundClockRunsOut(*this)) return;
     DisableCommandButtons(true);
-    ShowTimesUp(*this);
-    BlinkLabel(c("lblMessage"), 10, 250);
-    cmdTakeScore_Click(false);
-    if (loaded() && c("lblMessage").caption() != kGameOver) c("lblMessage").setVisible(false);
+    TimesUpThenScore(*this, [this] { cmdTakeScore_Click(false); });
 }
 
 // The end of a round: completion, combinations and speed bonus in this order,
@@ -172,11 +164,7 @@ void frmSumfall::TakeScore() {
             const int32_t step = CompletionBonus / 10;
             for (int i = 0; i < 10; ++i) {
                 message.setForeColor(message.foreColor() == 255 ? 0 : 255);
-                AddToScore(step);
-                ShowScore();
-                runtime().refresh();
-                Wave("\\Snap.wav");
-                Sleep(75);
+                CountStep(*this, step);
             }
         } else {
             AddToScore(CompletionBonus);
@@ -197,13 +185,10 @@ void frmSumfall::TakeScore() {
         combinations.setForeColor(0xFFFF00);
         if (CountDownScore) {
             while (CombinationCount > 0) {
-                AddToScore(CombinationBonus);
-                ShowScore();
-                runtime().refresh();
-                CombinationCount -= 1;
-                combinations.setCaption(NumText(CombinationCount));
-                Wave("\\Snap.wav");
-                Sleep(75);
+                CountStep(*this, CombinationBonus, [&] {
+                    CombinationCount -= 1;
+                    combinations.setCaption(NumText(CombinationCount));
+                });
             }
         } else {
             AddToScore(static_cast<long long>(CombinationBonus) * CombinationCount);
@@ -233,16 +218,7 @@ void frmSumfall::TakeScore() {
             Sleep(1000);
             score.setForeColor(0);
         } else {
-            for (int second = ElapsedSeconds + 1; second <= TimeLimit; ++second) {
-                DrawTimeDial(DialAngle(ElapsedSeconds), *this);
-                DialSeconds = static_cast<int16_t>(second);
-                ElapsedSeconds += 1;
-                AddToScore(TimeBonus);
-                ShowScore();
-                runtime().refresh();
-                Wave("\\Snap.wav");
-                Sleep(75);
-            }
+            CountClockSeconds(*this, TimeBonus);
         }
     }
 

@@ -63,7 +63,7 @@ const ControlSpec kBoardLabels[] = {
 };
 
 // The controls a resize moves with the right edge, and those it keeps
-// centred with the board.
+// centred with the board at their design size.
 const char* const kRightColumn[] = {
     "cmdPlay", "cmdTakeScore", "cmdPause", "cmdQuit", "lblTime", "TimerRectangle", "Surface", "TimerBevelSide",
     "TimerBevelBottom", "lblScore", "ScoreRectangle", "lblCurrentScore", "ScoreBevelSide", "ScoreBevelBottom",
@@ -109,6 +109,10 @@ std::vector<ControlSpec> Layout() {
 frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
     setSize(kDesignWidth, kDesignHeight);
     add(Layout());
+    for (const char* name : kRightColumn) RightColumn.add(c(name));
+    for (const char* name : kBoardArrays)
+        for (int i = 0; Control* control = find(name, i); ++i) BoardMoves.addWithSize(*control);
+    for (const char* name : kBoardSingles) BoardMoves.addWithSize(c(name));
     PrepareStandingControls(*this);
     c("lblHighScore").move(kHighScoreLeft, kHighScoreTop, 2400, 255);
     // The round stands as a caption of its own; the round box is not used.
@@ -140,12 +144,6 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
     // The messages and the flush word stand in front of the cards.
     for (const char* name : {"lblFlush", "lblScoring", "lblMessage"}) c(name).zOrderFront();
     ShowCards(false);
-    for (int i = 0; i < 3; ++i) c("TempCardSelection", i).setVisible(false);
-    for (int i = 0; i < kFieldSlots; ++i) {
-        c("PlayCardSelection", i).setVisible(false);
-        if (i >= 4) c("PlayCard", i).setVisible(false);
-    }
-    c("UpCardSelection").setVisible(false);
     ShowControls(false, true);
     c("lblHighScore").setVisible(true);
     PlaceBoard();
@@ -190,23 +188,23 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
     expose("DeckValue", Expose(DeckValue));
     expose("PenaltyValue", Expose(PenaltyValue));
     expose("BonusScore", Expose(BonusScore));
-    expose("DeckPosition", Expose(DeckPosition));
-    expose("Selected", Expose(Selected));
-    expose("SourceZone", Expose(SourceZone));
-    expose("SourceIndex", Expose(SourceIndex));
+    expose("DeckPosition", Expose(Board.deckPosition));
+    expose("Selected", Expose(Board.selected));
+    expose("SourceZone", Expose(Board.sourceZone));
+    expose("SourceIndex", Expose(Board.sourceIndex));
     expose("TripCount", Expose(TripCount));
     expose("RunCount", Expose(RunCount));
     expose("CurrentRound", Expose(CurrentRound));
-    const auto array = [](const auto& cards) {
-        return [&cards](int index, Value& out) {
-            if (index < 0 || index >= static_cast<int>(cards.size())) return false;
-            out = cards[static_cast<size_t>(index)];
+    const auto array = [](const auto& slots) {
+        return [&slots](int index, Value& out) {
+            if (index < 0 || index >= static_cast<int>(slots.size())) return false;
+            out = slots[static_cast<size_t>(index)].card;
             return true;
         };
     };
-    expose("FieldCards", array(FieldCards));
-    expose("TempCards", array(TempCards));
-    expose("UpCards", array(UpCards));
+    expose("FieldCards", array(Board.field));
+    expose("TempCards", array(Board.storage));
+    expose("UpCards", array(Board.fan));
 }
 
 // ---- Loading and closing ---------------------------------------------------------
@@ -259,28 +257,14 @@ void frmTreyshift::Form_Resize() {
 }
 
 void frmTreyshift::PlaceBoard() {
-    const int clientWidth = width() - 120;
-    const int clientHeight = height() - 660;
-    const int dx = (width() - kDesignWidth) / 2;
-    const int dy = (height() - kDesignHeight) / 2;
-    const int right = width() - kDesignWidth;
-    static std::vector<ControlSpec> design = Layout();
-    for (const ControlSpec& spec : design) {
-        Control* control = find(spec.name, spec.index);
-        if (!control) continue;
-        const std::string name = spec.name;
-        bool inRight = false, onBoard = false;
-        for (const char* r : kRightColumn) inRight = inRight || name == r;
-        for (const char* b : kBoardArrays) onBoard = onBoard || name == b;
-        for (const char* b : kBoardSingles) onBoard = onBoard || name == b;
-        if (inRight) control->setLeft(spec.left + right);
-        if (onBoard) control->move(spec.left + dx, spec.top + dy, spec.width, spec.height);
-    }
-    c("lblHighScore").move(kHighScoreLeft + dx, kHighScoreTop + dy, 2400, 255);
+    const Offset at = CentredOffset(*this, kDesignWidth, kDesignHeight);
+    RightColumn.shiftAcross(width() - kDesignWidth);
+    BoardMoves.shift(at.dx, at.dy);
+    c("lblHighScore").move(kHighScoreLeft + at.dx, kHighScoreTop + at.dy, 2400, 255);
     Control& splash = c("frmSplash");
-    splash.setLeft((clientWidth - splash.width()) / 2);
-    splash.setTop(480 + dy);
-    c("StatusBar1").move(0, clientHeight - 330, clientWidth, 330);
+    splash.setLeft((width() - 120 - splash.width()) / 2);
+    splash.setTop(480 + at.dy);
+    PlaceStatusBar(*this);
     CentreIn("lblCurrentScore", "ScoreRectangle");
     CentreIn("lblScoreTrips", "TripsRectangle");
     CentreIn("lblScoreRuns", "RunRectangle");
@@ -297,7 +281,7 @@ void frmTreyshift::mnuTime_Click(const char* menu) {
 
 void frmTreyshift::mnuDeck_Click(int design) {
     ChooseBackDesign(*this, kDeckMenus[design - 1]);
-    c("CardStackPicture").setPicture(ImageList2().indexOf(StackKey(DeckPosition)));
+    c("CardStackPicture").setPicture(ImageList2().indexOf(StackKey(Board.deckPosition)));
     DeckDesign = static_cast<int16_t>(design);
 }
 

@@ -16,6 +16,8 @@
 #include <string>
 
 #include "games/treyshift/modTreyshift.h"
+#include "games/treyshift/modTreyshiftBoard.h"
+#include "suite/boardplaces.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
@@ -48,17 +50,14 @@ private:
     SettingsLayout SettingsSections();
 
     // ---- frmTreyshiftBoard.cpp
+    void ShowBoard();
+    void ShowPlaces();
+    void ShowStep(const treyshift::Step& step);
     void UpCard_Click(int index);
     void CardStackPicture_Click();
     void TempCard_Click(int index);
     void PlayCard_Click(int index);
-    void MoveCard(int& DestIndex, int16_t DestZone);
-    void MoveToField(int& d);
-    void MoveToTemp(int d);
-    void ClearFieldSource(int s);
-    void CancelSelection();
     void StuckTest();
-    void UpDateDeck();
     void Deal();
     void ShowCards(bool show);
     void ShowControls(bool showBoard, bool showScore);
@@ -67,10 +66,6 @@ private:
     void CheckFlush(int column, bool& IsFlush);
     void ClearColumn(int column);
     void ShowFlushMessage(int column);
-    bool ShowsEmpty(const Control& slot) const;
-    bool HasCard(const Control& slot) const;
-    void ShowCard(Control& slot, const std::string& code);
-    void ShowEmpty(Control& slot);
 
     // ---- frmTreyshiftRounds.cpp
     void cmdPlay_Click(bool fromMenu);
@@ -94,20 +89,15 @@ private:
     void Wave(const char* name) const;
     int ScaleWidth() const;
 
-    // The board.
-    std::array<std::string, treyshift::kFieldSlots> FieldCards;
-    std::array<std::string, treyshift::kTempSlots> TempCards;
-    std::array<std::string, treyshift::kUpSlots> UpCards;
-    int16_t DeckPosition = 0;
-    bool Selected = false;
-    int16_t SourceZone = -1;
-    int16_t SourceIndex = -1;
+    treyshift::Board Board;
     int16_t TripCount = 0;
     int16_t RunCount = 0;
     int16_t CurrentRound = 1;
     bool EndingRound = false;  // a round is being scored
     long RoundEnds = 0;        // rounds scored since the window was made
     SplashAnimation Splash;
+    BoardPlaces BoardMoves;
+    BoardPlaces RightColumn;
 };
 
 void RegisterTreyshift(Runtime& runtime);

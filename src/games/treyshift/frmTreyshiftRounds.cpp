@@ -4,11 +4,13 @@
 // over cards and the speed bonus, then the next round, the bonus round or the
 // end of the game.
 #include "games/treyshift/frmTreyshift.h"
+#include "games/treyshift/modTreyshiftBoard.h"
 
 #include "suite/cards.h"
 #include "suite/common.h"
 #include "suite/dial.h"
 #include "suite/labels.h"
+#include "suite/roundsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -63,7 +65,7 @@ void frmTreyshift::Play() {
     ShowControls(true, true);
     ShowCards(true);
     if (PlayMusic) StartMusic();
-    c("lblCardCount").setCaption(CardsRemainingText(DeckPosition));
+    c("lblCardCount").setCaption(CardsRemainingText(Board.deckPosition));
 }
 
 // A confirmed End Game: the board goes, nothing reaches the table.
@@ -105,11 +107,8 @@ void frmTreyshift::cmdPause_Click() {
 // Time running out is no forfeit: the round is scored as if taken, with no
 // seconds left to pay.
 void frmTreyshift::Timer1_Timer() {
-    AdvanceRoundClock(*this);
-    ShowTimeWarnings(*this);
-    if (ElapsedSeconds != TimeLimit) return;
+    if (!RoundClockRunsOut(*this)) return;
     setMousePointer(11);
-    c("Timer1").setEnabled(false);
     for (int i = 0; i < kUpSlots; ++i) c("UpCard", i).setVisible(false);
     for (const char* name : {"UpCardSelection", "CardStackPicture", "lblCardCount"}) c(name).setVisible(false);
     Control& scoring = c("lblScoring");
@@ -157,8 +156,8 @@ void frmTreyshift::EndOnError(const RuntimeError& error) {
     if (!loaded()) return;
     // The removal of left over cards may have stopped with a card outlined.
     RestoreFlushLabel();
-    for (int i = 0; i < kFieldSlots; ++i) c("PlayCardSelection", i).setVisible(false);
-    for (int i = 0; i < kTempSlots; ++i) c("TempCardSelection", i).setVisible(false);
+    ClearOutlines(Board);
+    ShowPlaces();
     for (const char* name : {"lblMessage", "lblScoring", "ScoringLabelOutline"}) c(name).setVisible(false);
     c("lblCurrentScore").setForeColor(0xFF0000);
     GameOver();
@@ -177,7 +176,7 @@ void frmTreyshift::EndRound() {
     if (PlayMusic) StopMusic();
     ShowControls(false, true);
 
-    if (ShowsEmpty(c("UpCard", 2))) {
+    if (Board.fan[2].ShowsEmpty()) {
         for (int i = 0; i < kUpSlots; ++i) c("UpCard", i).setVisible(false);
         c("CardStackPicture").setVisible(false);
         scoring.setCaption("Deck Completion Bonus!");
@@ -271,8 +270,8 @@ void frmTreyshift::GameOver() {
 // costs PenaltyValue, taken off one at a time, the lowest field card first.
 void frmTreyshift::RemoveLeftOverCards() {
     bool any = false;
-    for (const std::string& card : FieldCards) any = any || !card.empty();
-    for (const std::string& card : TempCards) any = any || !card.empty();
+    for (const Slot& slot : Board.field) any = any || slot.HasCard();
+    for (const Slot& slot : Board.storage) any = any || slot.HasCard();
     if (!any) return;
     Control& scoring = c("lblScoring");
     Control& message = c("lblMessage");
@@ -290,9 +289,11 @@ void frmTreyshift::RemoveLeftOverCards() {
     flush.setBackStyle(0);
     flush.setFontSize(10);
     FitLabelToText(flush);
-    const auto remove = [&](const char* selectionName, const char* cardName, int i, bool keepsSlot) {
+    // The board keeps its cards; only the controls show them taken off.
+    const auto remove = [&](Slot& slot, const char* cardName, int i, bool keepsSlot) {
         Control& card = c(cardName, i);
-        c(selectionName, i).setVisible(true);
+        slot.outlined = true;
+        ShowPlaces();
         AddToScore(-static_cast<long long>(PenaltyValue));
         ShowScore();
         flush.setLeft(card.left() + card.width() / 2 - flush.width() / 2);
@@ -300,18 +301,26 @@ void frmTreyshift::RemoveLeftOverCards() {
         Wave("\\Click.wav");
         runtime().refresh();
         Sleep(500);
-        c(selectionName, i).setVisible(false);
-        if (keepsSlot)
-            ShowEmpty(card);
-        else
-            card.setVisible(false);
+        slot.outlined = false;
+        if (keepsSlot) {
+            ShowPlaces();
+            card.setBorderStyle(0);
+            card.setPicture(ImageList2().indexOf("EMPTY"));
+        } else {
+            slot.visible = false;
+            ShowPlaces();
+        }
     };
     flush.setTop(c("PlayCardSelection", 0).top() - 250);
-    for (int i = kFieldSlots - 1; i >= 0; --i)
-        if (!FieldCards[static_cast<size_t>(i)].empty()) remove("PlayCardSelection", "PlayCard", i, i < 4);
+    for (int i = kFieldSlots - 1; i >= 0; --i) {
+        Slot& slot = Board.field[static_cast<size_t>(i)];
+        if (slot.HasCard()) remove(slot, "PlayCard", i, i < 4);
+    }
     flush.setTop(c("TempCardSelection", 0).top() - 250);
-    for (int i = kTempSlots - 1; i >= 0; --i)
-        if (!TempCards[static_cast<size_t>(i)].empty()) remove("TempCardSelection", "TempCard", i, true);
+    for (int i = kTempSlots - 1; i >= 0; --i) {
+        Slot& slot = Board.storage[static_cast<size_t>(i)];
+        if (slot.HasCard()) remove(slot, "TempCard", i, true);
+    }
 
     RestoreFlushLabel();
     message.setVisible(false);
@@ -335,30 +344,13 @@ void frmTreyshift::InitRound() {
     DoEvents();
     if (!loaded()) return;
     TakingScore = false;
-    for (std::string& card : FieldCards) card.clear();
-    for (std::string& card : UpCards) card.clear();
-    for (std::string& card : TempCards) card.clear();
-    for (int i = 0; i < kFieldSlots; ++i) {
-        Control& slot = c("PlayCard", i);
-        slot.setPicture(0);
-        if (i >= 4) slot.setVisible(false);
-        slot.setBorderStyle(0);
-        c("PlayCardSelection", i).setVisible(false);
-    }
-    for (int i = 0; i < 3; ++i) {
-        c("UpCard", i).setPicture(0);
-        c("UpCard", i).setBorderStyle(1);
-        c("TempCard", i).setPicture(0);
-        c("TempCard", i).setBorderStyle(0);
-        c("TempCardSelection", i).setVisible(false);
-    }
-    c("UpCardSelection").setVisible(false);
-    CancelSelection();
+    ClearBoard(Board);
+    ShowBoard();
     ElapsedSeconds = 0;
     TripCount = 0;
     RunCount = 0;
     c("lblRound").setCaption("Round: " + NumText(CurrentRound));
-    c("lblCardCount").setCaption(CardsRemainingText(DeckPosition));
+    c("lblCardCount").setCaption(CardsRemainingText(Board.deckPosition));
     ShowScore();
     CentreIn("lblScoreRuns", "RunRectangle");
     CentreIn("lblScoreTrips", "TripsRectangle");

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Treyshift's rules as plain functions: column scoring, the deck stack, the
-// stuck test, the end of a round and the checks of the custom scoring dialog.
+// end of a round and the checks of the custom scoring dialog.
 #include "games/treyshift/modTreyshift.h"
 
 #include <cmath>
@@ -67,14 +67,6 @@ std::string PenaltyText(int32_t penalty) {
     std::string text(1, '-');
     text += NumText(penalty);
     return text;
-}
-
-bool IsStuck(const std::array<std::string, kTempSlots>& temp, const std::array<std::string, kFieldSlots>& field) {
-    for (const std::string& card : temp)
-        if (card.empty()) return false;
-    for (int i = 8; i < kFieldSlots; ++i)
-        if (field[static_cast<size_t>(i)].empty()) return false;
-    return true;
 }
 
 bool GameEndsAfter(int round, long long score, long long bonusScore) {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of Treyshift as plain data and functions: how a column of three
 // cards scores (Trip, Run, flush Run) and what each pays with which sound,
-// the deck stack and card count, the stuck position, the end of a round, the
-// default scoring values, and the fields of the custom scoring dialog.
+// the deck stack and card count, the end of a round, the default scoring
+// values, and the fields of the custom scoring dialog. The board and its
+// moves are in modTreyshiftBoard.h.
 #pragma once
 
 #include <array>
@@ -81,8 +82,6 @@ std::string CardsRemainingText(int deckPosition);
 std::string PenaltyText(int32_t penalty);
 
 // ---- Round ---------------------------------------------------------------------
-// A full storage and four full bottom slots: the only position taken as stuck.
-bool IsStuck(const std::array<std::string, kTempSlots>& temp, const std::array<std::string, kFieldSlots>& field);
 // After the round just scored: the game ends after round 2 unless the score
 // reached BonusScore, and always after the bonus round.
 bool GameEndsAfter(int round, long long score, long long bonusScore);
