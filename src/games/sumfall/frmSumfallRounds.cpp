@@ -163,13 +163,13 @@ void frmSumfall::TakeScore() {
 
     if (completed) {
         Wave("\\Wingame.wav");
-        message.setCaption("Completion Bonus! " + NumText(CompletionBonus));
+        message.setCaption("Completion Bonus! " + NumText(Scoring.CompletionBonus));
         message.setVisible(true);
         runtime().refresh();
         score.setForeColor(0xFFFF00);
         Sleep(1000);
         if (CountDownScore) {
-            const int32_t step = CompletionBonus / 10;
+            const int32_t step = Scoring.CompletionBonus / 10;
             for (int i = 0; i < 10; ++i) {
                 message.setForeColor(message.foreColor() == 255 ? 0 : 255);
                 AddToScore(step);
@@ -179,7 +179,7 @@ void frmSumfall::TakeScore() {
                 Sleep(75);
             }
         } else {
-            AddToScore(CompletionBonus);
+            AddToScore(Scoring.CompletionBonus);
             ShowScore();
             runtime().refresh();
             Sleep(1000);
@@ -190,14 +190,15 @@ void frmSumfall::TakeScore() {
     if (CombinationCount != 0) {
         const std::string& word = c("lblElevens").caption();
         message.setCaption(NumText(CombinationCount) + " " + word.substr(0, word.empty() ? 0 : word.size() - 1) +
-                           "! Bonus = " + NumText(CLng(static_cast<double>(CombinationBonus) * CombinationCount)));
+                           "! Bonus = " +
+                           NumText(CLng(static_cast<double>(Scoring.CombinationBonus) * CombinationCount)));
         message.setVisible(true);
         runtime().refresh();
         score.setForeColor(0xFFFF00);
         combinations.setForeColor(0xFFFF00);
         if (CountDownScore) {
             while (CombinationCount > 0) {
-                AddToScore(CombinationBonus);
+                AddToScore(Scoring.CombinationBonus);
                 ShowScore();
                 runtime().refresh();
                 CombinationCount -= 1;
@@ -206,7 +207,7 @@ void frmSumfall::TakeScore() {
                 Sleep(75);
             }
         } else {
-            AddToScore(static_cast<long long>(CombinationBonus) * CombinationCount);
+            AddToScore(static_cast<long long>(Scoring.CombinationBonus) * CombinationCount);
             ShowScore();
             CombinationCount = 0;
             combinations.setCaption(NumText(CombinationCount));
@@ -265,7 +266,7 @@ void frmSumfall::TakeScore() {
         message.setVisible(false);
         DisableCommandButtons(false);
         FieldCardDisplay(true);
-    } else if (CurrentRound == 2 && CurrentScore >= BonusRoundScore) {
+    } else if (CurrentRound == 2 && CurrentScore >= Scoring.BonusRoundScore) {
         Wave("\\HighScore.wav");
         message.setCaption("Bonus Round!");
         message.setVisible(true);
