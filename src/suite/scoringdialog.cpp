@@ -14,12 +14,14 @@ namespace ch {
 namespace {
 
 // A box that failed: its message, the box that shows `shown` and takes the
-// focus, and the value stored (none: the value is left as it was).
+// focus, the value stored (none: the value is left as it was), and the order
+// of its steps when the field gives one.
 struct Failure {
     const char* message;
     const char* box;
     double shown;
     std::optional<double> stored;
+    std::optional<FailureOrder> order = {};
 };
 
 std::optional<Failure> Check(const Form& dialog, const ScoringField& f, double number) {
@@ -33,7 +35,7 @@ std::optional<Failure> Check(const Form& dialog, const ScoringField& f, double n
                           f.lowStored.value_or(f.lowest)};
     else if (number > f.highest)
         failure = Failure{f.highMessage ? f.highMessage : f.lowMessage, f.box, f.highShown.value_or(f.highest),
-                          f.highStored.value_or(f.highest)};
+                          f.highStored.value_or(f.highest), f.highOrder};
     if (failure && f.keepsValueOnFailure) failure->stored.reset();
     return failure;
 }
@@ -82,10 +84,19 @@ bool CheckScoringFields(Form& dialog, std::span<const ScoringField> fields, cons
             }
             allPassed = false;
             Control& box = dialog.c(failure->box);
-            if (policy.correctsBox) box.setText(ScoringNumberText(failure->shown));
-            if (policy.storeOnFailedOk && failure->stored) store(i, static_cast<long long>(*failure->stored), false);
-            MsgBox(failure->message, MsgButtons::OK, policy.icon, AppTitle);
-            dialog.setFocus(box);
+            for (const FailureStep step : failure->order.value_or(policy.order)) {
+                switch (step) {
+                    case FailureStep::Store:
+                        if (policy.storeOnFailedOk && failure->stored)
+                            store(i, static_cast<long long>(*failure->stored), false);
+                        break;
+                    case FailureStep::Show:
+                        if (policy.correctsBox) box.setText(ScoringNumberText(failure->shown));
+                        break;
+                    case FailureStep::Message: MsgBox(failure->message, MsgButtons::OK, policy.icon, AppTitle); break;
+                    case FailureStep::Focus: dialog.setFocus(box); break;
+                }
+            }
             if (policy.stopAtFirstError) break;
         }
         if (allPassed && !policy.storeOnFailedOk)

@@ -10,6 +10,7 @@
 //   if (CheckScoringFields(*this, kFields, {}, store, finish)) unload;
 #pragma once
 
+#include <array>
 #include <functional>
 #include <optional>
 #include <span>
@@ -21,6 +22,13 @@
 namespace ch {
 
 class Form;
+
+// What a box out of range does: store its put-back value, show the put-back
+// text in the box, show its message, take the focus. The order of these
+// steps is what a player sees behind the modal message: the box as typed or
+// already corrected.
+enum class FailureStep { Store, Show, Message, Focus };
+using FailureOrder = std::array<FailureStep, 4>;
 
 struct ScoringField {
     const char* box = "";
@@ -45,6 +53,8 @@ struct ScoringField {
     // Below the range this box, not the field's own, shows the put-back
     // value and takes the focus.
     const char* lowBox = nullptr;
+    // Above the range the steps run in this order, not the policy's.
+    std::optional<FailureOrder> highOrder = {};
     // The value of a number inside the range; none: the number rounded, a
     // half to the even neighbour.
     long long (*value)(double number) = nullptr;
@@ -60,6 +70,8 @@ struct ScoringPolicy {
     // A box out of range shows its put-back value; otherwise it keeps the
     // text typed.
     bool correctsBox = true;
+    // The order of a failed box's steps.
+    FailureOrder order = {FailureStep::Store, FailureStep::Message, FailureStep::Show, FailureStep::Focus};
     MsgIcon icon = MsgIcon::Information;
     // When the rest of OK (`finish`) runs.
     enum class Finish { Always, WhenLastPasses, WhenAllPass } finish = Finish::WhenLastPasses;
@@ -84,11 +96,11 @@ void ShowScoringTexts(Form& dialog, std::span<const ScoringField> fields, const 
 // OK's check. The number of a box is the one at the start of its text (0
 // when there is none). A box that fails shows its message (the title
 // AppTitle), its put-back text, takes the focus, and stores its put-back
-// value unless the policy or the field says otherwise; the box shows its
-// put-back text before that value is stored. A run-time error (a value too
-// large for its setting) is shown with the exclamation icon and ends the
-// check: neither `finish` nor the closing follows. True when every box
-// passed: the dialog may close.
+// value unless the policy or the field says otherwise, in the order the
+// policy (or the field, above its range) gives. A run-time error (a value
+// too large for its setting) is shown with the exclamation icon and ends the
+// check: the steps after it, `finish` and the closing do not follow. True
+// when every box passed: the dialog may close.
 bool CheckScoringFields(Form& dialog, std::span<const ScoringField> fields, const ScoringPolicy& policy,
                         const ScoringStore& store, const std::function<void()>& finish);
 

@@ -4,6 +4,8 @@
 // focus ends, and the policies that tell the games' dialogs apart.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
 #include <tuple>
 #include <vector>
 
@@ -121,10 +123,15 @@ TEST_F(ScoringDialog, ABoxComparedWithAnotherReadsItAsTheEarlierChecksLeftIt) {
     EXPECT_EQ(ScoringNumberText(2147483647.0), "2147483647");
 }
 
-TEST_F(ScoringDialog, ARunTimeErrorInAStoreEndsTheCheckWithTheBoxAlreadyCorrected) {
+TEST_F(ScoringDialog, ARunTimeErrorInAStoreEndsTheCheckWithTheStepsBeforeItDone) {
+    // B's box shows its put-back text before its value is stored; the store
+    // fails, so B's message never comes.
+    ScoringField fields[std::size(kFields)];
+    std::copy(std::begin(kFields), std::end(kFields), fields);
+    fields[1].highOrder = {FailureStep::Show, FailureStep::Store, FailureStep::Message, FailureStep::Focus};
     dialog.type("5", "200", "5");
     const bool closes = CheckScoringFields(
-        dialog, kFields, {.finish = ScoringPolicy::Finish::Always},
+        dialog, fields, {.finish = ScoringPolicy::Finish::Always},
         [](size_t field, long long, bool) {
             if (field == 1) throw RuntimeError(kErrOverflow, "Overflow");
         },

@@ -52,12 +52,15 @@ ScoringField WaitAbove60() {
     ScoringField wait =
         WaitField(60, "Sorry, a maximum of 60 seconds is allowed for the waiting period between rounds.");
     wait.highShown = 0;
+    wait.highOrder = {FailureStep::Show, FailureStep::Store, FailureStep::Message, FailureStep::Focus};
     return wait;
 }
 
-// In the order OK checks them. A minute in milliseconds does not fit the
-// wait: above 60 seconds the box reads "0" before the minute is stored, and
-// the store overflows. A 21 bonus below 0 corrects the bonus round box, not
+// In the order OK checks them. A box that fails stores its value, shows its
+// message over the text typed, then takes its put-back text and the focus.
+// A minute in milliseconds does not fit the wait: above 60 seconds the box
+// reads "0" before the minute is stored, and the store overflows, so the
+// overflow message comes instead of the wait's own. A 21 bonus below 0 corrects the bonus round box, not
 // its own, and that "0" then passes the bonus round's check.
 const ScoringField kFields[] = {
     PassesField(),
@@ -78,7 +81,8 @@ const ScoringField kFields[] = {
      .lowMessage = "Sorry, a minimum of 0 is required for the bonus round score.",
      .highMessage = "Sorry, the maximum value for achieving a bonus round is 2147483647."},
 };
-const ScoringPolicy kPolicy{.finish = ScoringPolicy::Finish::Always};
+const ScoringPolicy kPolicy{.order = {FailureStep::Store, FailureStep::Message, FailureStep::Show, FailureStep::Focus},
+                            .finish = ScoringPolicy::Finish::Always};
 
 std::vector<std::string> Texts(const ScoringValues& v) {
     return {NumText(v.CardsToPass),         SecondsText(v.WaitPeriod),      NumText(v.CardsUsedBonusValue),

@@ -42,7 +42,8 @@ const ControlSpec kLayout[] = {
 
 // The boxes in the order OK checks them. Each is checked and stored, whatever
 // the boxes before it did; the rest of OK follows when the time bonus, the
-// last box, passes.
+// last box, passes. A box out of range takes its limit as its value at once,
+// shows its message over the text typed, then the limit and the focus.
 const ScoringField kFields[] = {
     {.box = "txtPairsBonus", .lowest = 0, .highest = 32767,
      .lowMessage = "Sorry, you cannot set the pairs bonus value to less than 0 points.",
@@ -60,6 +61,8 @@ const ScoringField kFields[] = {
      .lowMessage = "Sorry, you cannot set the Time Bonus value to less than 0 points.",
      .highMessage = "Sorry, you cannot set the Time Bonus value to greater than 32767 points"},
 };
+
+const ScoringPolicy kPolicy{.order = {FailureStep::Store, FailureStep::Message, FailureStep::Show, FailureStep::Focus}};
 
 std::vector<std::string> Texts(const ScoringValues& v, int32_t timeBonus) {
     return {NumText(v.PairsBonus), NumText(v.RunsBonus), NumText(v.BonusScore), NumText(v.CompletionBonus),
@@ -101,7 +104,7 @@ void frmDuopickCustomScoring::cmdOK_Click() {
         g.ShowBonusLabels();
         g.c("StatusBar1").setPanel(1, "Make " + FormatScore(g.Scoring.BonusScore) + " for bonus round.  ");
     };
-    if (CheckScoringFields(*this, kFields, {}, store, finish)) runtime().unload(*this);
+    if (CheckScoringFields(*this, kFields, kPolicy, store, finish)) runtime().unload(*this);
 }
 
 }  // namespace ch

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The User Options dialog of Fivestack. OK checks the boxes in a fixed order
 // (passes, wait, bonus, maximum, minimum); in each box the tests run in order
-// until one fails. What passed, and what was clamped, is the game's at once,
+// until one fails. A box that fails shows its message over the text typed,
+// then takes its put-back text and the focus, and only then is its clamped
+// value stored. What passed, and what was clamped, is the game's at once,
 // whatever the rest; a failed Time Bonus limit is not taken. The rest of OK
 // follows every time.
 #include "games/fivestack/frmFivestackCustomScoring.h"
@@ -62,7 +64,8 @@ const ScoringField kFields[] = {
      .belowMessage = "Sorry, the minimum time bonus value must be less than the maximum time bonus value.",
      .keepsValueOnFailure = true},
 };
-const ScoringPolicy kPolicy{.finish = ScoringPolicy::Finish::Always};
+const ScoringPolicy kPolicy{.order = {FailureStep::Message, FailureStep::Show, FailureStep::Focus, FailureStep::Store},
+                            .finish = ScoringPolicy::Finish::Always};
 
 std::vector<std::string> Texts(const ScoringValues& v) {
     return {NumText(v.CardsToPass), ScoringNumberText(v.WaitPeriod / 1000.0), NumText(v.BonusScore),

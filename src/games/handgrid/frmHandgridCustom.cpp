@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Handgrid's user options dialog: twelve fields checked in order on OK, each
-// stored at once, a value out of range replaced by its put-back value with a
-// message, the focus left on the last field that failed. The bonus goal shows
+// stored at once, a value out of range replaced by its put-back value (stored,
+// then the message over the text typed, then the box's text), the focus left
+// on the last field that failed. The bonus goal shows
 // as soon as its field passes; the rest of OK follows when the time bonus,
 // the last field, passes.
 #include "games/handgrid/frmHandgridCustom.h"
@@ -59,6 +60,7 @@ const ScoringField kFields[] = {
     Field("txtTimeBonus", "lblTimeBonus", "Time Bonus (per second multipler)", 10, 1,
           "Sorry, the Time Bonus value must be between 0 and 10 points."),
 };
+const ScoringPolicy kPolicy{.order = {FailureStep::Store, FailureStep::Message, FailureStep::Show, FailureStep::Focus}};
 constexpr size_t kHandFields = 9;
 constexpr size_t kBonusScoreField = 9;
 constexpr size_t kOverWritesField = 10;
@@ -136,7 +138,7 @@ void frmHandgridCustom::cmdOK_Click() {
         CountDownScore = c("chkCountDown").value() == 1;
         g.CheckForCustom();
     };
-    if (CheckScoringFields(*this, kFields, {}, store, finish)) runtime().unload(*this);
+    if (CheckScoringFields(*this, kFields, kPolicy, store, finish)) runtime().unload(*this);
 }
 
 }  // namespace ch

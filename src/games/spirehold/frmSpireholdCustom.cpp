@@ -2,7 +2,8 @@
 // Spirehold's custom scoring dialog: its table, the layout drawn from it,
 // loading the values, Default, Cancel and OK. OK checks and writes every field
 // in turn, also when another fails; the rest of OK follows when the time
-// bonus, the last field, passes.
+// bonus, the last field, passes. A field out of range sets its setting, shows
+// its message over the text typed, then its put-back text and the focus.
 #include "games/spirehold/frmSpireholdCustom.h"
 
 #include <iterator>
@@ -46,6 +47,7 @@ const ScoringField kFields[] = {
      .highMessage = "Sorry, you cannot set the Time Bonus value to greater than 32767 points"},
 };
 constexpr int kFieldCount = static_cast<int>(std::size(kFields));
+const ScoringPolicy kPolicy{.order = {FailureStep::Store, FailureStep::Message, FailureStep::Show, FailureStep::Focus}};
 
 constexpr int kRowTop = 360;
 constexpr int kRowStep = 480;
@@ -118,7 +120,7 @@ void frmSpireholdCustom::cmdOK_Click() {
         g.CheckForCustom();
         g.c("StatusBar1").setPanel(1, "Make " + FormatScore(g.Scoring.BonusScore) + " for bonus round.  ");
     };
-    if (CheckScoringFields(*this, kFields, {}, store, finish)) runtime().unload(*this);
+    if (CheckScoringFields(*this, kFields, kPolicy, store, finish)) runtime().unload(*this);
 }
 
 }  // namespace ch

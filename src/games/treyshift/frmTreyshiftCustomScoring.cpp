@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Treyshift's custom scoring dialog. OK checks every field in turn: a value
 // inside its range is stored at once, one outside is replaced by the limit it
-// passed, stored as well, and reported; the rest of OK follows when the time
-// bonus, the last field, passes. The penalty is entered as a negative number
+// passed, stored and shown in its box before its message comes up; the rest
+// of OK follows when the time bonus, the last field, passes. The penalty is entered as a negative number
 // and kept positive, except for the limit put back below its range.
 #include "games/treyshift/frmTreyshiftCustomScoring.h"
 
@@ -49,6 +49,8 @@ const ScoringField kFields[] = {
      .highest = 5000, .lowMessage = "Sorry, you cannot set the Time Bonus value to less than 0 points.",
      .highMessage = "Sorry, you cannot set the Time Bonus value to greater than 5000 points"},
 };
+
+const ScoringPolicy kPolicy{.order = {FailureStep::Store, FailureStep::Show, FailureStep::Message, FailureStep::Focus}};
 
 std::vector<ControlSpec> Layout() {
     std::vector<ControlSpec> specs = {{K::Frame, "frmScoringOptions", -1, 120, 120, 6240, 4200, ""}};
@@ -107,7 +109,7 @@ void frmTreyshiftCustom::cmdOK_Click() {
         g.CheckForCustom();
         g.c("StatusBar1").setPanel(1, "Make " + FormatScore(g.Scoring.BonusScore) + " for bonus round.  ");
     };
-    if (CheckScoringFields(*this, kFields, {}, store, finish)) runtime().unload(*this);
+    if (CheckScoringFields(*this, kFields, kPolicy, store, finish)) runtime().unload(*this);
 }
 
 }  // namespace ch
