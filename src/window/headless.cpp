@@ -73,8 +73,10 @@ WaitResult HeadlessPlatform::wait(InputEvent& event, int64_t deadline, bool poll
 void HeadlessPlatform::openMessageBox(const MessageBox& box) {
     boxes_.push_back(box);
     PendingAnswer answer{MsgAnswer::OK, now_};
+    std::function<void()> onOpen;
     if (!answers_.empty()) {
         const QueuedAnswer& queued = answers_.front();
+        onOpen = queued.onOpen;
         answer.answer = queued.answer;
         if (queued.place != Place::Named) {
             const bool first = queued.place == Place::First;
@@ -91,6 +93,7 @@ void HeadlessPlatform::openMessageBox(const MessageBox& box) {
         if (report_) report_("message box \"" + box.text + "\" found no answer");
     }
     pending_ = answer;
+    if (onOpen) onOpen();
 }
 
 int HeadlessPlatform::textWidth(const std::string& text, double fontSize, bool) {

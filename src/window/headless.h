@@ -29,11 +29,14 @@ public:
 
     // An answer named by its button, or by the button's place in the box: the
     // first (OK, Yes) or the second (Cancel, No; OK in an OK-only box).
+    // `onOpen` runs when the box opens, while the windows behind it stand as
+    // the box finds them.
     enum class Place { Named, First, Second };
     struct QueuedAnswer {
         MsgAnswer answer = MsgAnswer::OK;
         int afterMs = 0;
         Place place = Place::Named;
+        std::function<void()> onOpen = {};
     };
 
     HeadlessPlatform();
@@ -42,8 +45,12 @@ public:
     // Called with a text when a message box other than OK-only finds no answer.
     void setFailureReporter(std::function<void(const std::string&)> report) { report_ = std::move(report); }
 
-    void queueAnswer(MsgAnswer answer, int afterMs) { answers_.push_back({answer, afterMs, Place::Named}); }
-    void queueAnswer(Place place, int afterMs) { answers_.push_back({MsgAnswer::OK, afterMs, place}); }
+    void queueAnswer(MsgAnswer answer, int afterMs, std::function<void()> onOpen = {}) {
+        answers_.push_back({answer, afterMs, Place::Named, std::move(onOpen)});
+    }
+    void queueAnswer(Place place, int afterMs, std::function<void()> onOpen = {}) {
+        answers_.push_back({MsgAnswer::OK, afterMs, place, std::move(onOpen)});
+    }
     size_t queuedAnswers() const { return answers_.size(); }
     // Input that reached the window system while the logic was busy: the next
     // wait serves it ahead of the timers that fell due meanwhile, as a real

@@ -131,7 +131,7 @@ TEST(DuopickStack, TheFirstGapIsTheLowestIndex) {
 }
 
 TEST(DuopickScoring, AwardsComeInTheirOrderWithThePairsLast) {
-    const auto awards = RoundAwards(Scoring{}, true, 12, 4, 7);
+    const auto awards = RoundAwards(ScoringValues{}, kDefaultTimeBonus, true, 12, 4, 7);
     ASSERT_EQ(awards.size(), 4u);
     EXPECT_EQ(awards[0].title, "Completion Bonus");
     EXPECT_EQ(awards[1].kind, Award::Kind::Time);
@@ -143,8 +143,8 @@ TEST(DuopickScoring, AwardsComeInTheirOrderWithThePairsLast) {
 }
 
 TEST(DuopickScoring, NothingMadeAndNoTimeLeftPaysNothing) {
-    EXPECT_TRUE(RoundAwards(Scoring{}, false, 0, 0, 0).empty());
-    const auto only = RoundAwards(Scoring{}, false, 1, 0, 2);
+    EXPECT_TRUE(RoundAwards(ScoringValues{}, kDefaultTimeBonus, false, 0, 0, 0).empty());
+    const auto only = RoundAwards(ScoringValues{}, kDefaultTimeBonus, false, 1, 0, 2);
     ASSERT_EQ(only.size(), 2u);
     EXPECT_EQ(only[0].kind, Award::Kind::Time);
     EXPECT_EQ(only[1].count * only[1].value, 6000);
@@ -158,11 +158,9 @@ TEST(DuopickScoring, TheBonusRoundNeedsAtLeastTheBonusScoreAfterRoundTwo) {
 }
 
 TEST(DuopickScoring, CustomUnlessEveryValueHasItsDefault) {
-    Scoring s;
-    EXPECT_FALSE(IsCustom(s));
+    ScoringValues s;
+    EXPECT_FALSE(IsCustom(s, kDefaultTimeBonus));
+    EXPECT_TRUE(IsCustom(s, 0));
     s.CompletionBonus = 10001;
-    EXPECT_TRUE(IsCustom(s));
-    s = Scoring{};
-    s.TimeBonus = 0;
-    EXPECT_TRUE(IsCustom(s));
+    EXPECT_TRUE(IsCustom(s, kDefaultTimeBonus));
 }

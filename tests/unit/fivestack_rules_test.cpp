@@ -21,19 +21,6 @@ std::vector<int> Lay(Column& column, std::initializer_list<int> values) {
     return totals;
 }
 
-struct Report {
-    OptionField field;
-    std::string message;
-    std::string text;
-};
-
-std::vector<Report> Check(OptionTexts& texts, OptionValues& values, bool& ok) {
-    std::vector<Report> reports;
-    ok = CheckOptions(texts, values, [&](OptionField f, const std::string& m, const std::string& t) {
-        reports.push_back({f, m, t});
-    });
-    return reports;
-}
 }  // namespace
 
 TEST(FivestackCards, PictureCardsCountTenAndAcesOne) {
@@ -118,99 +105,19 @@ TEST(FivestackTimeBonus, FallsFromTheMaximumToTheMinimumTenEveryThreeSeconds) {
     EXPECT_EQ(TimeBonusAt(1, 101, 100, halves), 100);  // 100.5 goes to 100
 }
 
-TEST(FivestackScoring, OnlyTheFourScoringValuesMarkAScore) {
-    EXPECT_FALSE(IsCustomScoring(100, 300, 200000, 1));
-    EXPECT_TRUE(IsCustomScoring(99, 300, 200000, 1));
-    EXPECT_TRUE(IsCustomScoring(100, 301, 200000, 1));
-    EXPECT_TRUE(IsCustomScoring(100, 300, 199999, 1));
-    EXPECT_TRUE(IsCustomScoring(100, 300, 200000, 0));
-}
-
-TEST(FivestackOptions, GoodFieldsAreAllStoredRounded) {
-    OptionTexts texts{"3", "1.5", "150000.4", "500", "20"};
-    OptionValues values;
-    bool ok = false;
-    EXPECT_TRUE(Check(texts, values, ok).empty());
-    EXPECT_TRUE(ok);
-    EXPECT_EQ(values.passesLeft, 3);
-    EXPECT_EQ(values.cardsToPass, 3);
-    EXPECT_EQ(values.waitPeriod, 1500);
-    EXPECT_EQ(values.bonusScore, 150000);
-    EXPECT_EQ(values.timeBonusMax, 500);
-    EXPECT_EQ(values.timeBonusMin, 20);
-}
-
-TEST(FivestackOptions, ClampedFieldsAreStoredAndTheOthersGoOn) {
-    OptionTexts texts{"-1", "31", "-5", "300", "100"};
-    OptionValues values;
-    values.cardsToPass = 4;
-    bool ok = true;
-    const auto reports = Check(texts, values, ok);
-    EXPECT_FALSE(ok);
-    ASSERT_EQ(reports.size(), 3u);
-    EXPECT_EQ(reports[0].message, "Sorry, you cannot pass fewer than 0 cards.");
-    EXPECT_EQ(reports[1].message,
-              "Sorry, a maximum of 30 seconds is allowed for the waiting period between rounds.");
-    EXPECT_EQ(reports[1].text, "30");
-    EXPECT_EQ(reports[2].message, "Sorry, a minimum of 0 is required for the bonus round score.");
-    EXPECT_EQ(values.passesLeft, 0);
-    EXPECT_EQ(values.cardsToPass, 4);  // a clamped pass count reaches only PassesLeft
-    EXPECT_EQ(values.waitPeriod, 30000);
-    EXPECT_EQ(values.bonusScore, 0);
-    EXPECT_EQ(texts.passes, "0");
-    EXPECT_EQ(texts.wait, "30");
-
-    OptionTexts high{"11", "-2", "3000000000", "300", "100"};
-    const auto more = Check(high, values, ok);
-    ASSERT_EQ(more.size(), 3u);
-    EXPECT_EQ(more[0].message, "Sorry, you cannot pass more than 10 cards.");
-    EXPECT_EQ(more[1].text, "0");
-    EXPECT_EQ(more[2].message, "Sorry, the maximum value for achieving a bonus round is 2147483647.");
-    EXPECT_EQ(values.passesLeft, 10);
-    EXPECT_EQ(values.waitPeriod, 0);
-    EXPECT_EQ(values.bonusScore, 2147483647);
-}
-
-TEST(FivestackOptions, TheMinimumReadsTheMaximumAsTheFirstTestLeftIt) {
-    OptionTexts texts{"1", "2", "200000", "100", "100"};
-    OptionValues values;
-    values.timeBonusMax = 250;
-    bool ok = true;
-    const auto reports = Check(texts, values, ok);
-    ASSERT_EQ(reports.size(), 1u);
-    EXPECT_EQ(reports[0].field, OptionField::Maximum);
-    EXPECT_EQ(reports[0].message,
-              "Sorry, the maximum time bonus value must be greater than the minimum time bonus value.");
-    EXPECT_EQ(reports[0].text, "101");
-    EXPECT_EQ(texts.maximum, "101");
-    EXPECT_EQ(values.timeBonusMax, 250);  // the failed maximum isn't taken
-    EXPECT_EQ(values.timeBonusMin, 100);
-}
-
-TEST(FivestackOptions, EachFieldStopsAtItsFirstFailedTest) {
-    bool ok = true;
-    OptionValues values;
-    // No number counts as 0: the maximum is not above an empty minimum, and
-    // the minimum then fails its own test of 0.
-    OptionTexts empty{"1", "2", "200000", "300", ""};
-    auto reports = Check(empty, values, ok);
-    ASSERT_EQ(reports.size(), 1u);
-    EXPECT_EQ(reports[0].message, "Sorry, the minimum time bonus value must be greater than 0.");
-    EXPECT_EQ(reports[0].text, "0");
-
-    OptionTexts big{"1", "2", "200000", "20000", "15000"};
-    reports = Check(big, values, ok);
-    ASSERT_EQ(reports.size(), 2u);
-    EXPECT_EQ(reports[0].message, "Sorry, the maximum time bonus value must not exceed 10000.");
-    EXPECT_EQ(reports[1].message,
-              "Sorry, the minimum time bonus value must be less than the maximum time bonus value.");
-    EXPECT_EQ(reports[1].text, "9999");
-
-    OptionTexts negative{"1", "2", "200000", "-5", "-10"};
-    reports = Check(negative, values, ok);
-    ASSERT_EQ(reports.size(), 2u);
-    EXPECT_EQ(reports[0].message, "Sorry, the maximum time bonus value must be greater than 0.");
-    EXPECT_EQ(reports[0].text, "0");
-    // The maximum's box now reads 0, above -10: the minimum fails its own test.
-    EXPECT_EQ(reports[1].message, "Sorry, the minimum time bonus value must be greater than 0.");
+TEST(FivestackScoring, OnlyTheTimeBonusRangeTheBonusScoreAndThePassesMarkAScore) {
+    const ScoringValues d;
+    EXPECT_FALSE(IsCustomScoring(d, 1));
+    EXPECT_TRUE(IsCustomScoring(d, 0));
+    for (const auto& change : std::vector<void (*)(ScoringValues&)>{
+             [](ScoringValues& v) { v.TimeBonusMin = 99; }, [](ScoringValues& v) { v.TimeBonusMax = 301; },
+             [](ScoringValues& v) { v.BonusScore = 199999; }}) {
+        ScoringValues v;
+        change(v);
+        EXPECT_TRUE(IsCustomScoring(v, 1));
+    }
+    ScoringValues v;
+    v.WaitPeriod = 0;
+    v.CardsToPass = 5;  // the passes left count, not the setting
+    EXPECT_FALSE(IsCustomScoring(v, 1));
 }

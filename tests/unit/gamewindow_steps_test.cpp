@@ -1,27 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Shared steps of the game windows: a scoring box checked on OK, a step run
-// around a pause, and the guard of a resize.
+// Shared steps of the game windows: a step run around a pause, and the guard
+// of a resize.
 #include <gtest/gtest.h>
 
 #include <memory>
 
 #include "suite/common.h"
 #include "suite/gamewindow.h"
-#include "suite/scoringbox.h"
 #include "window/headless.h"
 #include "window/runtime.h"
 
 using namespace ch;
 
 namespace {
-
-class Dialog : public Form {
-public:
-    explicit Dialog(Runtime& rt) : Form(rt, "frmDialog") {
-        add({ControlKind::TextBox, "txtValue", -1, 0, 0, 100, 100});
-        add({ControlKind::TextBox, "txtOther", -1, 0, 0, 100, 100});
-    }
-};
 
 // A window whose pause button counts its clicks and flips its caption.
 class Game : public Form {
@@ -50,48 +41,7 @@ protected:
     Runtime runtime{platform};
 };
 
-const ScoringBoxRule kRule = {"txtValue", 0, 32767, "too low", "too high"};
-
 }  // namespace
-
-TEST_F(SharedSteps, AScoringBoxPassesItsNumberRoundedHalfToEven) {
-    Dialog dialog(runtime);
-    bool failed = false;
-    for (const auto& [text, value] : std::vector<std::pair<std::string, long long>>{
-             {"32767", 32767}, {"0", 0}, {"12abc", 12}, {"abc", 0}, {"2.5", 2}, {"3.5", 4}}) {
-        dialog.c("txtValue").setText(text);
-        const ScoringCheck check = CheckScoringBox(dialog, kRule, failed);
-        EXPECT_EQ(check.outcome, ScoringCheck::Outcome::Passed) << text;
-        EXPECT_EQ(check.value, value) << text;
-    }
-    EXPECT_FALSE(failed);
-    EXPECT_TRUE(platform.takeMessageBoxes().empty());
-}
-
-TEST_F(SharedSteps, AScoringBoxOutOfRangeTellsCorrectsAndTakesTheFocus) {
-    Dialog dialog(runtime);
-    bool failed = false;
-    platform.queueAnswer(MsgAnswer::OK, 0);
-    dialog.c("txtValue").setText("32768");
-    ScoringCheck check = CheckScoringBox(dialog, kRule, failed);
-    EXPECT_EQ(check.outcome, ScoringCheck::Outcome::TooHigh);
-    EXPECT_EQ(check.value, 32767);
-    EXPECT_TRUE(failed);
-    EXPECT_EQ(dialog.c("txtValue").text(), "32767");
-    EXPECT_EQ(dialog.focusControl(), &dialog.c("txtValue"));
-    platform.queueAnswer(MsgAnswer::OK, 0);
-    dialog.c("txtValue").setText("-0.5");
-    check = CheckScoringBox(dialog, kRule, failed);
-    EXPECT_EQ(check.outcome, ScoringCheck::Outcome::TooLow);
-    EXPECT_EQ(check.value, 0);
-    EXPECT_EQ(dialog.c("txtValue").text(), "0");
-    const auto boxes = platform.takeMessageBoxes();
-    ASSERT_EQ(boxes.size(), 2u);
-    EXPECT_EQ(boxes[0].text, "too high");
-    EXPECT_EQ(boxes[1].text, "too low");
-    EXPECT_EQ(boxes[0].icon, MsgIcon::Information);
-    EXPECT_EQ(boxes[0].title, "Duopick!");
-}
 
 TEST_F(SharedSteps, AStepRunsPausedOnlyWhenTheGameRuns) {
     runtime.registerForm("frmGame", [](Runtime& rt) { return std::make_unique<Game>(rt); });

@@ -90,8 +90,7 @@ TEST(HandgridGrid, TransposeTurnsColumnsIntoRowsAndBack) {
     for (int i = 0; i < kCells; ++i) EXPECT_EQ(grid[static_cast<size_t>(i)], std::to_string(i));
 }
 
-TEST(HandgridTables, DefaultValuesAndColours) {
-    EXPECT_EQ(kDefaultHandValues, (HandValues{0, 50, 70, 80, 90, 100, 200, 300, 400, 500}));
+TEST(HandgridTables, Colours) {
     EXPECT_EQ(HandColour("Nothing"), static_cast<int>(0x80000012u));
     EXPECT_EQ(HandColour("1 Pair"), 0xFF0000);
     EXPECT_EQ(OverWritesColour(OverWritesText(0)), 255);
@@ -106,26 +105,16 @@ TEST(HandgridTables, DefaultValuesAndColours) {
     EXPECT_EQ(StackPictureKey(-3), std::string("EMPTY"));
 }
 
-TEST(HandgridTables, ScoringFieldsAndCustomFlag) {
-    EXPECT_EQ(OutOfRangeMessage(0), "Sorry, the Pair Score Value: must be between 0 and 50,000 points.");
-    EXPECT_EQ(OutOfRangeMessage(8), "Sorry, the Royal Flush Score Value: must be between 0 and 100,000 points.");
-    EXPECT_EQ(OutOfRangeMessage(kBonusScoreField),
-              "Sorry, the Score required for bonus round: must be between 0 and 1,000,000 points.");
-    EXPECT_EQ(OutOfRangeMessage(kOverWritesField),
-              "Sorry, the Number of overwrites allowed must be between 0 and 26 points.");
-    EXPECT_EQ(OutOfRangeMessage(kTimeBonusField), "Sorry, the Time Bonus value must be between 0 and 10 points.");
-    EXPECT_TRUE(InRange(kOverWritesField, 26));
-    EXPECT_FALSE(InRange(kOverWritesField, 27));
-    EXPECT_TRUE(InRange(0, 0));
-    EXPECT_FALSE(InRange(0, -0.5));
-    EXPECT_TRUE(InRange(8, 100000));
-    EXPECT_FALSE(InRange(7, 50000.5));
-
-    EXPECT_FALSE(IsCustomScoring(kDefaultHandValues, 1, 100000, 3));
-    HandValues changed = kDefaultHandValues;
-    changed[RoyalFlush] = 501;
-    EXPECT_TRUE(IsCustomScoring(changed, 1, 100000, 3));
-    EXPECT_TRUE(IsCustomScoring(kDefaultHandValues, 2, 100000, 3));
-    EXPECT_TRUE(IsCustomScoring(kDefaultHandValues, 1, 0, 3));
-    EXPECT_TRUE(IsCustomScoring(kDefaultHandValues, 1, 100000, 26));
+TEST(HandgridTables, CustomScoringIsAnyValueOffItsDefault) {
+    EXPECT_FALSE(IsCustomScoring(ScoringValues{}, 1));
+    EXPECT_TRUE(IsCustomScoring(ScoringValues{}, 2));
+    ScoringValues changed;
+    changed.HandScores[RoyalFlush] = 501;
+    EXPECT_TRUE(IsCustomScoring(changed, 1));
+    changed = {};
+    changed.BonusScore = 0;
+    EXPECT_TRUE(IsCustomScoring(changed, 1));
+    changed = {};
+    changed.OverWritesAllowed = 26;
+    EXPECT_TRUE(IsCustomScoring(changed, 1));
 }

@@ -163,13 +163,3 @@ TEST(SavedGames, VerdictsByScore) {
               "This game was saved by Bo. He or she accumulated a sorry score of 20,000 in this game. "
               "Customized scoring was not in effect when this game was played. ");
 }
-
-TEST(CustomScoring, ValuesMustLieBetweenOneAndFiveMillion) {
-    EXPECT_EQ(FirstInvalidScoringValue({"80000", "10000", "1500", "100"}), -1);
-    EXPECT_EQ(FirstInvalidScoringValue({"5000000", "1", "1500", "100"}), -1);
-    EXPECT_EQ(FirstInvalidScoringValue({"5000001", "0", "1500", "100"}), 0);
-    EXPECT_EQ(FirstInvalidScoringValue({"80000", "0", "x", "100"}), 1);
-    EXPECT_EQ(FirstInvalidScoringValue({"80000", "10000", "abc", "100"}), 2);
-    EXPECT_EQ(FirstInvalidScoringValue({"80000", "10000", "1500", "-5"}), 3);
-    EXPECT_EQ(FirstInvalidScoringValue({"80000", "10000", "1500", "12abc"}), -1);
-}

@@ -65,11 +65,12 @@ TEST(TreyshiftColumn, EachKindPaysItsValueWithItsSound) {
     const ColumnAward run = AwardFor(ColumnKind::Run, v);
     EXPECT_EQ(run.points, 400);
     EXPECT_STREQ(run.sound, "\\TwentyOne.wav");
+    EXPECT_EQ(trip.flushPoints + run.flushPoints, 0);
     const ColumnAward flush = AwardFor(ColumnKind::FlushRun, v);
-    EXPECT_EQ(flush.points, 2900);
+    EXPECT_EQ(flush.flushPoints, 2500);
+    EXPECT_EQ(flush.points, 400);
     EXPECT_STREQ(flush.sound, "\\HighScore.wav");
     EXPECT_EQ(AwardFor(ColumnKind::None, v).points, 0);
-    EXPECT_EQ(AwardFor(ColumnKind::FlushRun, kDefaults).points, 5300);
 }
 
 TEST(TreyshiftDeck, StackThinsAsCardsAreTaken) {
@@ -96,48 +97,18 @@ TEST(TreyshiftRound, TheBonusRoundTakesTheBonusScoreAfterRoundTwo) {
 }
 
 TEST(TreyshiftScoring, EveryValueCountsForCustomScoring) {
-    EXPECT_FALSE(IsCustomScoring(kDefaults));
+    EXPECT_FALSE(IsCustomScoring(kDefaults, kDefaultTimeBonus));
+    EXPECT_TRUE(IsCustomScoring(kDefaults, 0));
     ScoringValues v;
     v.PenaltyValue = 0;
-    EXPECT_TRUE(IsCustomScoring(v));
+    EXPECT_TRUE(IsCustomScoring(v, kDefaultTimeBonus));
     v = ScoringValues{};
     v.DeckValue = 15001;
-    EXPECT_TRUE(IsCustomScoring(v));
+    EXPECT_TRUE(IsCustomScoring(v, kDefaultTimeBonus));
 }
 
-TEST(TreyshiftScoring, ThePenaltyIsEnteredNegativeAndKeptPositive) {
-    const ScoringFieldSpec& penalty = kScoringFields[5];
-    ASSERT_EQ(penalty.field, ScoringField::Penalty);
-    FieldCheck c = CheckScoringField(penalty, "-300");
-    EXPECT_TRUE(c.valid);
-    EXPECT_EQ(c.stored, 300);
-    c = CheckScoringField(penalty, "0");
-    EXPECT_TRUE(c.valid);
-    EXPECT_EQ(c.stored, 0);
-    c = CheckScoringField(penalty, "100");
-    EXPECT_FALSE(c.valid);
-    EXPECT_EQ(c.stored, 0);
-    EXPECT_STREQ(c.message, "Sorry, the maximum penalty for left over cards is 0.");
-    // Below the range the limit is kept as it stands, sign and all.
-    c = CheckScoringField(penalty, "-20001");
-    EXPECT_FALSE(c.valid);
-    EXPECT_EQ(c.stored, -20000);
-    EXPECT_EQ(c.shown, "-20000");
-    c = CheckScoringField(penalty, "-20000");
-    EXPECT_TRUE(c.valid);
-    EXPECT_EQ(c.stored, 20000);
+TEST(TreyshiftScoring, ThePenaltyShowsWithItsMinusSign) {
     EXPECT_EQ(PenaltyText(250), "-250");
     EXPECT_EQ(PenaltyText(0), "-0");
     EXPECT_EQ(PenaltyText(-20000), "--20000");
-}
-
-TEST(TreyshiftScoring, FieldsRoundInsideTheirRangeAndTakeTheLimitOutside) {
-    const ScoringFieldSpec& deck = kScoringFields[2];
-    EXPECT_STREQ(CheckScoringField(deck, "-1").message, "Sorry, the minimum value for for completing the Deck is 0.");
-    EXPECT_EQ(CheckScoringField(deck, "100001").stored, 100000);
-    EXPECT_EQ(CheckScoringField(deck, "12.5").stored, 12);
-    EXPECT_EQ(CheckScoringField(deck, "13.5").stored, 14);
-    // Not a number: 0, inside every range.
-    for (const ScoringFieldSpec& f : kScoringFields) EXPECT_TRUE(CheckScoringField(f, "abc").valid) << f.textBox;
-    EXPECT_EQ(kScoringFields.back().field, ScoringField::TimeBonus);
 }

@@ -5,7 +5,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <map>
+#include <utility>
 
 #include "suite/cards.h"
 #include "suite/common.h"
@@ -158,9 +160,11 @@ void ScriptRunner::error(const std::string& text) {
     throw ScriptError{};
 }
 
-void ScriptRunner::fail(const std::string& text) {
+void ScriptRunner::fail(const std::string& text) { failAt(line_, text); }
+
+void ScriptRunner::failAt(int line, const std::string& text) {
     ++failures_;
-    print("FAIL " + std::to_string(line_) + ": " + text);
+    print("FAIL " + std::to_string(line) + ": " + text);
 }
 
 void ScriptRunner::trace(const std::string& text) {
@@ -457,22 +461,43 @@ std::optional<HeadlessPlatform::Step> ScriptRunner::execute(const std::vector<st
         return step;
     }
     if (cmd == "answer") {
-        if (n != 2 && n != 4) error("answer takes BUTTON [after MS]");
+        // answer BUTTON [after MS] [expect REF VALUE]...: each expect is
+        // checked when the box opens, on the windows behind it.
+        static const char kUsage[] = "answer takes BUTTON [after MS] [expect REF VALUE]...";
         static const std::map<std::string, MsgAnswer> kAnswers = {
             {"Yes", MsgAnswer::Yes}, {"No", MsgAnswer::No}, {"OK", MsgAnswer::OK}, {"Cancel", MsgAnswer::Cancel}};
+        if (n < 2) error(kUsage);
+        size_t i = 2;
         int after = 0;
-        if (n == 4) {
-            if (t[2] != "after") error("answer takes BUTTON [after MS]");
-            after = static_cast<int>(number(t[3]));
+        if (i < n && t[i] == "after") {
+            if (i + 1 >= n) error(kUsage);
+            after = static_cast<int>(number(t[i + 1]));
+            i += 2;
         }
+        std::vector<std::pair<std::string, std::string>> expects;
+        std::vector<Segment> segments;
+        for (; i < n; i += 3) {
+            if (t[i] != "expect" || i + 2 >= n) error(kUsage);
+            if (!ParseReference(t[i + 1], segments)) error("cannot read the reference " + t[i + 1]);
+            expects.emplace_back(t[i + 1], t[i + 2]);
+        }
+        std::function<void()> onOpen;
+        if (!expects.empty())
+            onOpen = [this, expects, line = line_] {
+                for (const auto& [ref, expected] : expects) {
+                    const std::string actual = evaluate(ref).text;
+                    if (actual != expected) failAt(line, ref + " = " + actual + " (expected " + expected + ")");
+                }
+            };
         // "first" and "second" press a button by its place, whatever the box holds.
         if (t[1] == "first" || t[1] == "second") {
-            platform_.queueAnswer(t[1] == "first" ? HeadlessPlatform::Place::First : HeadlessPlatform::Place::Second, after);
+            platform_.queueAnswer(t[1] == "first" ? HeadlessPlatform::Place::First : HeadlessPlatform::Place::Second,
+                                  after, onOpen);
             return std::nullopt;
         }
         auto it = kAnswers.find(t[1]);
         if (it == kAnswers.end()) error("unknown answer " + t[1]);
-        platform_.queueAnswer(it->second, after);
+        platform_.queueAnswer(it->second, after, onOpen);
         return std::nullopt;
     }
     if (cmd == "stack") {

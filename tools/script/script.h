@@ -64,6 +64,7 @@ private:
 
     std::optional<HeadlessPlatform::Step> execute(const std::vector<std::string>& tokens);
     [[noreturn]] void error(const std::string& text);
+    void failAt(int line, const std::string& text);
     Result evaluate(const std::string& expr);
     // Resolves a control reference for an input command; false when its form
     // is not loaded (a FAIL already printed).

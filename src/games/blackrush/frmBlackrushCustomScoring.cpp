@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The user options dialog of Blackrush.
+// The user options dialog of Blackrush. OK checks the boxes in turn, tells
+// every failure, stores each box as it goes (the clamped value of a failed
+// one too) and closes only when all passed. A wait that doesn't fit in
+// milliseconds ends the checks with the overflow message.
 #include "games/blackrush/frmBlackrushCustomScoring.h"
 
 #include "games/blackrush/frmBlackrush.h"
 #include "games/blackrush/modBlackrush.h"
 #include "suite/common.h"
+#include "suite/scoringdialog.h"
 #include "suite/userdialog.h"
 #include "suite/gamewindow.h"
 #include "window/basic.h"
@@ -44,10 +48,47 @@ const ControlSpec kLayout[] = {
     {K::Button, "cmdCancel", -1, 4560, 5460, 1335, 400, "&Cancel"},
 };
 
-// The text boxes in the order the rules module checks them.
-const char* const kBoxes[kOptionBoxes] = {"txtNumberOfCardsToPass", "txtWaitPeriod",          "txtCardsUsedBonus",
-                                          "txt21BonusValue",        "txtDeckCompletionBonus", "txtFiveCardGimmeBonus",
-                                          "txtBonus"};
+ScoringField WaitAbove60() {
+    ScoringField wait =
+        WaitField(60, "Sorry, a maximum of 60 seconds is allowed for the waiting period between rounds.");
+    wait.highShown = 0;
+    wait.highOrder = {FailureStep::Show, FailureStep::Store, FailureStep::Message, FailureStep::Focus};
+    return wait;
+}
+
+// In the order OK checks them. A box that fails stores its value, shows its
+// message over the text typed, then takes its put-back text and the focus.
+// A minute in milliseconds does not fit the wait: above 60 seconds the box
+// reads "0" before the minute is stored, and the store overflows, so the
+// overflow message comes instead of the wait's own. A 21 bonus below 0 corrects the bonus round box, not
+// its own, and that "0" then passes the bonus round's check.
+const ScoringField kFields[] = {
+    PassesField(),
+    WaitAbove60(),
+    {.box = "txtCardsUsedBonus", .lowest = 0, .highest = 5000,
+     .lowMessage = "Sorry, a minimum of 0 is required for the Cards Used bonus score.",
+     .highMessage = "Sorry, the maximum value for the Cards Used bonus score is 5000."},
+    {.box = "txt21BonusValue", .lowest = 0, .highest = 5000,
+     .lowMessage = "Sorry, a minimum of 0 is required for the Twenty One bonus score.",
+     .highMessage = "Sorry, the maximum value for the Twenty One bonus score is 5000.", .lowBox = "txtBonus"},
+    {.box = "txtDeckCompletionBonus", .lowest = 0, .highest = 1000000,
+     .lowMessage = "Sorry, a minimum of 0 is required for the Deck Completion Bonus.",
+     .highMessage = "Sorry, the maximum value for the Deck Completion Bonus is 1000000."},
+    {.box = "txtFiveCardGimmeBonus", .lowest = 0, .highest = 50000,
+     .lowMessage = "Sorry, a minimum of 0 is required for the Five Cards Gimme Bonus.",
+     .highMessage = "Sorry, the maximum value for the Five Cards Gimme Bonus is 50000."},
+    {.box = "txtBonus", .lowest = 0, .highest = 2147483647.0,
+     .lowMessage = "Sorry, a minimum of 0 is required for the bonus round score.",
+     .highMessage = "Sorry, the maximum value for achieving a bonus round is 2147483647."},
+};
+const ScoringPolicy kPolicy{.order = {FailureStep::Store, FailureStep::Message, FailureStep::Show, FailureStep::Focus},
+                            .finish = ScoringPolicy::Finish::Always};
+
+std::vector<std::string> Texts(const ScoringValues& v) {
+    return {NumText(v.CardsToPass),         SecondsText(v.WaitPeriod),      NumText(v.CardsUsedBonusValue),
+            NumText(v.TwentyOneBonusValue), NumText(v.DeckCompletionBonus), NumText(v.FiveCardGimmeBonus),
+            NumText(v.BonusScore)};
+}
 
 struct Speed {
     const char* option;
@@ -61,7 +102,7 @@ frmBlackrushCustomScoring::frmBlackrushCustomScoring(Runtime& runtime) : Form(ru
     add(kLayout);
     BindScoringDialog(
         *this, [this] { Form_Load(); }, [this] { cmdOK_Click(); }, [this] { cmdDefault_Click(); }, true);
-    for (const char* box : kBoxes) SelectAllOnFocus(*this, box);
+    for (const ScoringField& f : kFields) SelectAllOnFocus(*this, f.box);
 }
 
 frmBlackrush& frmBlackrushCustomScoring::game() const { return runtime().form<frmBlackrush>("frmBlackrush"); }
@@ -74,16 +115,14 @@ void frmBlackrushCustomScoring::Form_Load() {
     c("lblInfo").setCaption(
         "Note: Changing any of the Scoring Options will cause your high scores to be marked with an * indicating "
         "custom scoring was in use.");
-    const OptionTexts texts = OptionTextsFor(g.Scoring);
-    for (int box = 0; box < kOptionBoxes; ++box) c(kBoxes[box]).setText(texts[static_cast<size_t>(box)]);
+    ShowScoringTexts(*this, kFields, Texts(g.Scoring));
     c("chkCountScore").setValue(CountDownScore ? 1 : 0);
     for (const Speed& speed : kSpeeds)
         if (g.Scoring.CounterSpeed == speed.interval) c(speed.option).setValue(1);
 }
 
 void frmBlackrushCustomScoring::cmdDefault_Click() {
-    const OptionTexts texts = OptionTextsFor(ScoringValues{});
-    for (int box = 0; box < kOptionBoxes; ++box) c(kBoxes[box]).setText(texts[static_cast<size_t>(box)]);
+    ShowScoringTexts(*this, kFields, Texts(ScoringValues{}));
     c("chkCountScore").setValue(1);
     c("optDefault").setValue(1);
 }
@@ -95,26 +134,28 @@ void frmBlackrushCustomScoring::cmdOK_Click() {
             g.c("Timer3").setInterval(speed.interval);
             g.Scoring.CounterSpeed = speed.interval;
         }
-    OptionTexts texts;
-    for (int box = 0; box < kOptionBoxes; ++box) texts[static_cast<size_t>(box)] = c(kBoxes[box]).text();
-    bool passed = false;
-    try {
-        passed = CheckUserOptions(texts, g.Scoring, g.PassesLeft, [this, &texts](const std::string& message, OptionBox box) {
-            MsgBox(message, MsgButtons::OK, MsgIcon::Information, AppTitle);
-            Control& field = c(kBoxes[box]);
-            field.setText(texts[static_cast<size_t>(box)]);
-            setFocus(field);
-        });
-    } catch (const RuntimeError& error) {
-        // A box the checks corrected before the error keeps its new text.
-        for (int box = 0; box < kOptionBoxes; ++box) c(kBoxes[box]).setText(texts[static_cast<size_t>(box)]);
-        MsgBox(error.description(), MsgButtons::OK, MsgIcon::Exclamation, AppTitle);
-        return;
-    }
-    CountDownScore = c("chkCountScore").value() != 0;
-    g.CheckForCustom();
-    g.ShowBonusGoal("  ");
-    if (passed) runtime().unload(*this);
+    const auto store = [&g](size_t field, long long value, bool passed) {
+        ScoringValues& v = g.Scoring;
+        const auto number = static_cast<double>(value);
+        switch (field) {
+            case 0:
+                g.PassesLeft = CInt(number);
+                if (passed) v.CardsToPass = g.PassesLeft;
+                break;
+            case 1: v.WaitPeriod = CInt(number); break;
+            case 2: v.CardsUsedBonusValue = CLng(number); break;
+            case 3: v.TwentyOneBonusValue = CLng(number); break;
+            case 4: v.DeckCompletionBonus = CLng(number); break;
+            case 5: v.FiveCardGimmeBonus = CLng(number); break;
+            default: v.BonusScore = CLng(number); break;
+        }
+    };
+    const auto finish = [this, &g] {
+        CountDownScore = c("chkCountScore").value() != 0;
+        g.CheckForCustom();
+        g.ShowBonusGoal("  ");
+    };
+    if (CheckScoringFields(*this, kFields, kPolicy, store, finish)) runtime().unload(*this);
 }
 
 }  // namespace ch

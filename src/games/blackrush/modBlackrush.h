@@ -2,12 +2,11 @@
 // The rules of Blackrush as plain data and functions: the scoring values and
 // their defaults, what a card counts on a column, the pile picture for a place
 // in the deck, the 21 Counter's step, the round's 21s payout, the bonus round
-// test, and the checks of the user options dialog.
+// test, and the wait as the user options dialog shows it.
 #pragma once
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <string>
 
 namespace ch::blackrush {
@@ -74,26 +73,7 @@ std::string RoundScoreText(long long twentyOnes, long long bonus);
 // end of round 3 (`nextRound` 4).
 bool EarnsBonusRound(int nextRound, int32_t score, int32_t bonusScore);
 
-// ---- User options dialog ----------------------------------------------------
-// The text boxes in the order the dialog checks them.
-enum OptionBox { kPassBox, kWaitBox, kCardsUsedBox, kTwentyOneBox, kDeckBox, kGimmeBox, kBonusBox, kOptionBoxes };
-using OptionTexts = std::array<std::string, kOptionBoxes>;
-
-// Checks the boxes field by field. A field that passes is stored at once; a
-// field that fails reports its message and the box that then takes the focus
-// (through `refuse`, which shows the message), gets a corrected text and
-// stores what its test says. `passesLeft` follows the pass count. A wait of
-// 33 seconds or more can't be stored in milliseconds: RuntimeError
-// "Overflow" is thrown there (above 60 after its text became "0") and the
-// later fields are left as they were.
-// Returns true when every field passed.
-using RefuseField = std::function<void(const std::string& message, OptionBox focus)>;
-bool CheckUserOptions(OptionTexts& texts, ScoringValues& values, int16_t& passesLeft, const RefuseField& refuse);
-
 // Milliseconds as seconds without trailing zeros: 2000 "2", 2500 "2.5".
 std::string SecondsText(int milliseconds);
-
-// The texts of the boxes for a set of values (the wait in seconds).
-OptionTexts OptionTextsFor(const ScoringValues& values);
 
 }  // namespace ch::blackrush

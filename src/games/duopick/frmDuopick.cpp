@@ -144,10 +144,10 @@ frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmDuopickCustomScoring", true); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
 
-    expose("PairsBonus", Expose(PairsBonus));
-    expose("RunsBonus", Expose(RunsBonus));
-    expose("BonusScore", Expose(BonusScore));
-    expose("CompletionBonus", Expose(CompletionBonus));
+    expose("PairsBonus", Expose(Scoring.PairsBonus));
+    expose("RunsBonus", Expose(Scoring.RunsBonus));
+    expose("BonusScore", Expose(Scoring.BonusScore));
+    expose("CompletionBonus", Expose(Scoring.CompletionBonus));
     expose("DeckCards", Expose(DeckCards));
     expose("UpCards", Expose(UpCards));
     expose("WastePos", Expose(WastePos));
@@ -177,11 +177,11 @@ SettingsLayout frmDuopick::SettingsSections() {
         PlayMusicSection(*this),
         {"[Count Down Score]", [](const std::string& v) { CountDownScore = ParseBoolText(v); },
          [] { return std::string(BoolText(CountDownScore)); }},
-        number("[Pairs Bonus]", PairsBonus),
-        number("[Runs Bonus]", RunsBonus),
+        number("[Pairs Bonus]", Scoring.PairsBonus),
+        number("[Runs Bonus]", Scoring.RunsBonus),
         number("[Time Bonus]", TimeBonus),
-        number("[Bonus Score]", BonusScore),
-        number("[Completion Bonus]", CompletionBonus),
+        number("[Bonus Score]", Scoring.BonusScore),
+        number("[Completion Bonus]", Scoring.CompletionBonus),
     };
     AddClosingSections(layout, *this, kDesignWidth, kDesignHeight, kDeckMenus);
     return layout;
@@ -189,11 +189,8 @@ SettingsLayout frmDuopick::SettingsSections() {
 
 void frmDuopick::Form_Load() {
     BeginFormLoad(*this, 45, "mnu45");
-    PairsBonus = kDefaultPairsBonus;
-    RunsBonus = kDefaultRunsBonus;
+    Scoring = {};
     TimeBonus = kDefaultTimeBonus;
-    BonusScore = kDefaultBonusScore;
-    CompletionBonus = kDefaultCompletionBonus;
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
     CheckForCustom();
@@ -205,12 +202,12 @@ void frmDuopick::Form_Load() {
 void frmDuopick::Form_QueryUnload(EventArgs& args) { ConfirmCloseGameWindow(*this, args, kSettingsFile, SettingsSections()); }
 
 void frmDuopick::CheckForCustom() {
-    CustomScoringInUse = IsCustom({PairsBonus, RunsBonus, TimeBonus, BonusScore, CompletionBonus});
+    CustomScoringInUse = IsCustom(Scoring, TimeBonus);
 }
 
 void frmDuopick::ShowBonusLabels() {
-    c("lblPairs").setCaption("Pairs x " + FormatScore(PairsBonus));
-    c("lblRuns").setCaption("Runs x " + FormatScore(RunsBonus));
+    c("lblPairs").setCaption("Pairs x " + FormatScore(Scoring.PairsBonus));
+    c("lblRuns").setCaption("Runs x " + FormatScore(Scoring.RunsBonus));
 }
 
 // ---- Resizing -------------------------------------------------------------------------

@@ -29,10 +29,7 @@ public:
     explicit frmDuopick(Runtime& runtime);
 
     // Scoring values; the custom scoring dialog writes them (TimeBonus is shared).
-    int32_t PairsBonus = duopick::kDefaultPairsBonus;
-    int32_t RunsBonus = duopick::kDefaultRunsBonus;
-    int32_t BonusScore = duopick::kDefaultBonusScore;
-    int32_t CompletionBonus = duopick::kDefaultCompletionBonus;
+    duopick::ScoringValues Scoring;
 
     // CustomScoringInUse unless every scoring value has its default.
     void CheckForCustom();

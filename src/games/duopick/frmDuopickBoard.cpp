@@ -61,7 +61,7 @@ void frmDuopick::Deal() {
     c("lblCards").setCaption(NumText(CardsRemaining));
     InitTimeDial(*this);
     c("Timer1").setEnabled(true);
-    c("StatusBar1").setPanel(1, "Make " + FormatScore(BonusScore) + " for Bonus Round!   ");
+    c("StatusBar1").setPanel(1, "Make " + FormatScore(Scoring.BonusScore) + " for Bonus Round!   ");
     c("StatusBar1").setPanel(2, "Create runs by clicking on exposed cards!   ");
 }
 

@@ -8,7 +8,7 @@
 #include "suite/common.h"
 #include "suite/userdialog.h"
 #include "suite/gamewindow.h"
-#include "suite/scoringbox.h"
+#include "suite/scoringdialog.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -40,21 +40,34 @@ const ControlSpec kLayout[] = {
     {K::Button, "cmdDefault", -1, 4560, 3960, 1335, 400, "&Default"},
 };
 
-// The boxes in the order OK checks them.
-const ScoringBoxRule kRules[] = {
-    {"txtPairsBonus", 0, 32767, "Sorry, you cannot set the pairs bonus value to less than 0 points.",
-     "Sorry, you cannot set the pairs bonus value to more than 32767 points"},
-    {"txtRunsBonus", 0, 32767, "Sorry, you cannot set the runs bonus value to less than 0 points.",
-     "Sorry, you cannot set the runs bonus value to more than 32767 points"},
-    {"txtBonusRound", 0, 200000,
-     "Sorry, you cannot set the value required for a bonus round to less than 0 points.",
-     "Sorry, you cannot set the value required for a bonus round to more than 200000 points."},
-    {"txtCompletionBonus", 0, 32767,
-     "Sorry, you cannot set the value of the completion bonus to less than 0 points.",
-     "Sorry, you cannot set the value of the completion bonus to more than 32767 points."},
-    {"txtTimeBonus", 0, 32767, "Sorry, you cannot set the Time Bonus value to less than 0 points.",
-     "Sorry, you cannot set the Time Bonus value to greater than 32767 points"},
+// The boxes in the order OK checks them. Each is checked and stored, whatever
+// the boxes before it did; the rest of OK follows when the time bonus, the
+// last box, passes. A box out of range takes its limit as its value at once,
+// shows its message over the text typed, then the limit and the focus.
+const ScoringField kFields[] = {
+    {.box = "txtPairsBonus", .lowest = 0, .highest = 32767,
+     .lowMessage = "Sorry, you cannot set the pairs bonus value to less than 0 points.",
+     .highMessage = "Sorry, you cannot set the pairs bonus value to more than 32767 points"},
+    {.box = "txtRunsBonus", .lowest = 0, .highest = 32767,
+     .lowMessage = "Sorry, you cannot set the runs bonus value to less than 0 points.",
+     .highMessage = "Sorry, you cannot set the runs bonus value to more than 32767 points"},
+    {.box = "txtBonusRound", .lowest = 0, .highest = 200000,
+     .lowMessage = "Sorry, you cannot set the value required for a bonus round to less than 0 points.",
+     .highMessage = "Sorry, you cannot set the value required for a bonus round to more than 200000 points."},
+    {.box = "txtCompletionBonus", .lowest = 0, .highest = 32767,
+     .lowMessage = "Sorry, you cannot set the value of the completion bonus to less than 0 points.",
+     .highMessage = "Sorry, you cannot set the value of the completion bonus to more than 32767 points."},
+    {.box = "txtTimeBonus", .lowest = 0, .highest = 32767,
+     .lowMessage = "Sorry, you cannot set the Time Bonus value to less than 0 points.",
+     .highMessage = "Sorry, you cannot set the Time Bonus value to greater than 32767 points"},
 };
+
+const ScoringPolicy kPolicy{.order = {FailureStep::Store, FailureStep::Message, FailureStep::Show, FailureStep::Focus}};
+
+std::vector<std::string> Texts(const ScoringValues& v, int32_t timeBonus) {
+    return {NumText(v.PairsBonus), NumText(v.RunsBonus), NumText(v.BonusScore), NumText(v.CompletionBonus),
+            NumText(timeBonus)};
+}
 }  // namespace
 
 frmDuopickCustomScoring::frmDuopickCustomScoring(Runtime& runtime) : Form(runtime, "frmDuopickCustomScoring") {
@@ -62,7 +75,7 @@ frmDuopickCustomScoring::frmDuopickCustomScoring(Runtime& runtime) : Form(runtim
     add(kLayout);
     BindScoringDialog(
         *this, [this] { Form_Load(); }, [this] { cmdOK_Click(); }, [this] { cmdDefault_Click(); }, false);
-    for (const ScoringBoxRule& rule : kRules) SelectAllOnFocus(*this, rule.box);
+    for (const ScoringField& f : kFields) SelectAllOnFocus(*this, f.box);
 }
 
 frmDuopick& frmDuopickCustomScoring::game() const { return runtime().form<frmDuopick>("frmDuopick"); }
@@ -71,46 +84,27 @@ void frmDuopickCustomScoring::Form_Load() {
     CentreOnScreen(*this);
     setCaption(AppTitle + " User Options");
     c("frmScoringOptions").setCaption("AppTitle Scoring Options");
-    const frmDuopick& g = game();
-    c("txtPairsBonus").setText(NumText(g.PairsBonus));
-    c("txtRunsBonus").setText(NumText(g.RunsBonus));
-    c("txtBonusRound").setText(NumText(g.BonusScore));
-    c("txtCompletionBonus").setText(NumText(g.CompletionBonus));
-    c("txtTimeBonus").setText(NumText(TimeBonus));
+    ShowScoringTexts(*this, kFields, Texts(game().Scoring, TimeBonus));
     c("chkCountDown").setValue(CountDownScore ? 1 : 0);
 }
 
 void frmDuopickCustomScoring::cmdDefault_Click() {
-    c("txtPairsBonus").setText(NumText(kDefaultPairsBonus));
-    c("txtRunsBonus").setText(NumText(kDefaultRunsBonus));
-    c("txtBonusRound").setText(NumText(kDefaultBonusScore));
-    c("txtCompletionBonus").setText(NumText(kDefaultCompletionBonus));
-    c("txtTimeBonus").setText(NumText(kDefaultTimeBonus));
+    ShowScoringTexts(*this, kFields, Texts(ScoringValues{}, kDefaultTimeBonus));
     c("chkCountDown").setValue(1);
 }
 
-// Every box is checked and its value set, whatever the boxes before it did;
-// the rest follows only when the time bonus, the last box, passes.
 void frmDuopickCustomScoring::cmdOK_Click() {
     frmDuopick& g = game();
-    bool failed = false;
-    try {
-        g.PairsBonus = static_cast<int32_t>(CheckScoringBox(*this, kRules[0], failed).value);
-        g.RunsBonus = static_cast<int32_t>(CheckScoringBox(*this, kRules[1], failed).value);
-        g.BonusScore = static_cast<int32_t>(CheckScoringBox(*this, kRules[2], failed).value);
-        g.CompletionBonus = static_cast<int32_t>(CheckScoringBox(*this, kRules[3], failed).value);
-        const ScoringCheck time = CheckScoringBox(*this, kRules[4], failed);
-        TimeBonus = static_cast<int32_t>(time.value);
-        if (time.outcome == ScoringCheck::Outcome::Passed) {
-            CountDownScore = c("chkCountDown").value() == 1;
-            g.CheckForCustom();
-            g.ShowBonusLabels();
-            g.c("StatusBar1").setPanel(1, "Make " + FormatScore(g.BonusScore) + " for bonus round.  ");
-        }
-    } catch (const std::exception& error) {
-        MsgBox(error.what(), MsgButtons::OK, MsgIcon::Exclamation, AppTitle);
-    }
-    if (!failed) runtime().unload(*this);
+    int32_t* const values[] = {&g.Scoring.PairsBonus, &g.Scoring.RunsBonus, &g.Scoring.BonusScore,
+                               &g.Scoring.CompletionBonus, &TimeBonus};
+    const auto store = [&values](size_t field, long long value, bool) { *values[field] = static_cast<int32_t>(value); };
+    const auto finish = [this, &g] {
+        CountDownScore = c("chkCountDown").value() == 1;
+        g.CheckForCustom();
+        g.ShowBonusLabels();
+        g.c("StatusBar1").setPanel(1, "Make " + FormatScore(g.Scoring.BonusScore) + " for bonus round.  ");
+    };
+    if (CheckScoringFields(*this, kFields, kPolicy, store, finish)) runtime().unload(*this);
 }
 
 }  // namespace ch

@@ -156,15 +156,15 @@ void frmDuopick::TakeScore() {
     CurrentRound += 1;
     Control& message = c("lblMessage");
     message.setForeColor(255);
-    const Scoring scoring{PairsBonus, RunsBonus, TimeBonus, BonusScore, CompletionBonus};
-    for (const Award& award : RoundAwards(scoring, RoundCompleted, TimeLimit - ElapsedSeconds, RunsCount, PairsCount)) {
+    for (const Award& award :
+         RoundAwards(Scoring, TimeBonus, RoundCompleted, TimeLimit - ElapsedSeconds, RunsCount, PairsCount)) {
         if (award.kind == Award::Kind::Time)
             CountTimeBonus(*this, TimeBonus);
         else
             AwardBonus(*this, award.title, award.count, award.value);
     }
 
-    switch (NextStep(CurrentRound, CurrentScore, BonusScore)) {
+    switch (NextStep(CurrentRound, CurrentScore, Scoring.BonusScore)) {
         case AfterRound::RoundTwo:
             for (const char* name : buttons) c(name).setEnabled(true);
             message.setForeColor(255);

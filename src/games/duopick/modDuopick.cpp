@@ -51,17 +51,17 @@ int FirstGap(const std::array<bool, kFieldCards>& hasPicture) {
     return -1;
 }
 
-bool IsCustom(const Scoring& s) {
-    return !(s.PairsBonus == kDefaultPairsBonus && s.RunsBonus == kDefaultRunsBonus &&
-             s.TimeBonus == kDefaultTimeBonus && s.BonusScore == kDefaultBonusScore &&
-             s.CompletionBonus == kDefaultCompletionBonus);
+bool IsCustom(const ScoringValues& s, int32_t timeBonus) {
+    const ScoringValues d;
+    return !(s.PairsBonus == d.PairsBonus && s.RunsBonus == d.RunsBonus && timeBonus == kDefaultTimeBonus &&
+             s.BonusScore == d.BonusScore && s.CompletionBonus == d.CompletionBonus);
 }
 
-std::vector<Award> RoundAwards(const Scoring& scoring, bool roundCompleted, int secondsLeft, int32_t runs,
-                               int32_t pairs) {
+std::vector<Award> RoundAwards(const ScoringValues& scoring, int32_t timeBonus, bool roundCompleted,
+                               int secondsLeft, int32_t runs, int32_t pairs) {
     std::vector<Award> awards;
     if (roundCompleted) awards.push_back({Award::Kind::Named, "Completion Bonus", 1, scoring.CompletionBonus});
-    if (secondsLeft > 0) awards.push_back({Award::Kind::Time, "Speed Bonus", secondsLeft, scoring.TimeBonus});
+    if (secondsLeft > 0) awards.push_back({Award::Kind::Time, "Speed Bonus", secondsLeft, timeBonus});
     if (runs != 0) awards.push_back({Award::Kind::Named, "Runs Bonus", runs, scoring.RunsBonus});
     if (pairs != 0) awards.push_back({Award::Kind::Named, "Pairs Bonus", pairs, scoring.PairsBonus});
     return awards;

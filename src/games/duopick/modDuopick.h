@@ -21,11 +21,7 @@ constexpr int kStackCards = 28;
 constexpr int kCardWidth = 1035;
 constexpr int kCardHeight = 1455;
 
-constexpr int32_t kDefaultPairsBonus = 3000;
-constexpr int32_t kDefaultRunsBonus = 500;
-constexpr int32_t kDefaultTimeBonus = 100;
-constexpr int32_t kDefaultBonusScore = 80000;
-constexpr int32_t kDefaultCompletionBonus = 10000;
+constexpr int32_t kDefaultTimeBonus = 100;  // the suite's TimeBonus while Duopick is open
 
 struct CardPlace {
     int row;  // 1 the top row .. 5 the bottom row; 0 the up card
@@ -61,15 +57,16 @@ inline bool StackOverrun(int stackIndex) { return stackIndex > 52; }
 int FirstGap(const std::array<bool, kFieldCards>& hasPicture);
 
 // ---- Scoring --------------------------------------------------------------
-struct Scoring {
-    int32_t PairsBonus = kDefaultPairsBonus;
-    int32_t RunsBonus = kDefaultRunsBonus;
-    int32_t TimeBonus = kDefaultTimeBonus;
-    int32_t BonusScore = kDefaultBonusScore;
-    int32_t CompletionBonus = kDefaultCompletionBonus;
+// The values the custom scoring dialog edits, with their defaults; the
+// settings file keeps them.
+struct ScoringValues {
+    int32_t PairsBonus = 3000;
+    int32_t RunsBonus = 500;
+    int32_t BonusScore = 80000;
+    int32_t CompletionBonus = 10000;
 };
-// True unless every value has its default.
-bool IsCustom(const Scoring& scoring);
+// True unless every value and the time bonus have their defaults.
+bool IsCustom(const ScoringValues& scoring, int32_t timeBonus);
 
 // One award of the end of a round, in the order paid.
 struct Award {
@@ -81,8 +78,8 @@ struct Award {
 // The awards of a round: the completion bonus when the top row was cleared,
 // the time bonus for any second left, the runs, then the pairs; a count of 0
 // pays nothing and is left out.
-std::vector<Award> RoundAwards(const Scoring& scoring, bool roundCompleted, int secondsLeft, int32_t runs,
-                               int32_t pairs);
+std::vector<Award> RoundAwards(const ScoringValues& scoring, int32_t timeBonus, bool roundCompleted,
+                               int secondsLeft, int32_t runs, int32_t pairs);
 // What follows a round, by CurrentRound once it has been raised by one:
 // round two after round 1, the bonus round after round 2 for a score of at
 // least BonusScore, otherwise the end of the game.

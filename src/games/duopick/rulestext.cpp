@@ -11,11 +11,11 @@ namespace ch {
 
 std::string DuopickRulesText() {
     const frmDuopick* game = static_cast<const frmDuopick*>(Runtime::current().loaded("frmDuopick"));
-    const duopick::Scoring defaults;
-    const int32_t bonusScore = game ? game->BonusScore : defaults.BonusScore;
-    const int32_t pairs = game ? game->PairsBonus : defaults.PairsBonus;
-    const int32_t runs = game ? game->RunsBonus : defaults.RunsBonus;
-    const int32_t completion = game ? game->CompletionBonus : defaults.CompletionBonus;
+    const duopick::ScoringValues values = game ? game->Scoring : duopick::ScoringValues{};
+    const int32_t bonusScore = values.BonusScore;
+    const int32_t pairs = values.PairsBonus;
+    const int32_t runs = values.RunsBonus;
+    const int32_t completion = values.CompletionBonus;
     return RulesText(33, {
         RequirementsParagraph(),
         ObjectParagraph("two", FormatScore(TimeLimit), FormatScore(bonusScore)),

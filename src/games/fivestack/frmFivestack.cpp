@@ -228,16 +228,16 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
     on("mnuCustom", Ev::Click, [this](EventArgs&) { mnuCustom_Click(); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
 
-    expose("BonusScore", Expose(BonusScore));
-    expose("TimeBonusMax", Expose(TimeBonusMax));
-    expose("TimeBonusMin", Expose(TimeBonusMin));
+    expose("BonusScore", Expose(Scoring.BonusScore));
+    expose("TimeBonusMax", Expose(Scoring.TimeBonusMax));
+    expose("TimeBonusMin", Expose(Scoring.TimeBonusMin));
     expose("TimeBonusDecay", [this](int index, Value& out) {
         if (index >= 0) return false;
         out = static_cast<double>(TimeBonusDecay);
         return true;
     });
-    expose("WaitPeriod", Expose(WaitPeriod));
-    expose("CardsToPass", Expose(CardsToPass));
+    expose("WaitPeriod", Expose(Scoring.WaitPeriod));
+    expose("CardsToPass", Expose(Scoring.CardsToPass));
     expose("PassesLeft", Expose(PassesLeft));
     expose("DeckPosition", Expose(DeckPosition));
     expose("CardTotal", Expose(CardTotal));
@@ -267,22 +267,22 @@ SettingsLayout frmFivestack::SettingsSections() {
          [] { return std::string(BoolText(PlayMusic)); }},
         {"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kReversedDeckMenus); },
          [] { return NumText(DeckDesign); }},
-        {"[TimeBonusMax]", [this](const std::string& v) { TimeBonusMax = CInt(Val(v)); },
-         [this] { return NumText(TimeBonusMax); }},
-        {"[TimeBonusMin]", [this](const std::string& v) { TimeBonusMin = CInt(Val(v)); },
-         [this] { return NumText(TimeBonusMin); }},
-        {"[BonusScore]", [this](const std::string& v) { BonusScore = CLng(Val(v)); },
-         [this] { return NumText(BonusScore); }},
-        {"[WaitPeriod]", [this](const std::string& v) { WaitPeriod = CInt(Val(v)); },
-         [this] { return NumText(WaitPeriod); }},
+        {"[TimeBonusMax]", [this](const std::string& v) { Scoring.TimeBonusMax = CInt(Val(v)); },
+         [this] { return NumText(Scoring.TimeBonusMax); }},
+        {"[TimeBonusMin]", [this](const std::string& v) { Scoring.TimeBonusMin = CInt(Val(v)); },
+         [this] { return NumText(Scoring.TimeBonusMin); }},
+        {"[BonusScore]", [this](const std::string& v) { Scoring.BonusScore = CLng(Val(v)); },
+         [this] { return NumText(Scoring.BonusScore); }},
+        {"[WaitPeriod]", [this](const std::string& v) { Scoring.WaitPeriod = CInt(Val(v)); },
+         [this] { return NumText(Scoring.WaitPeriod); }},
         {"[CountDownScore]", [](const std::string& v) { CountDownScore = ParseBoolText(v); },
          [] { return std::string(BoolText(CountDownScore)); }},
         {"[Cards To Pass]",
          [this](const std::string& v) {
-             CardsToPass = CInt(Val(v));
-             PassesLeft = CardsToPass;
+             Scoring.CardsToPass = CInt(Val(v));
+             PassesLeft = Scoring.CardsToPass;
          },
-         [this] { return NumText(CardsToPass); }},
+         [this] { return NumText(Scoring.CardsToPass); }},
     };
     for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
     return layout;
@@ -291,18 +291,14 @@ SettingsLayout frmFivestack::SettingsSections() {
 void frmFivestack::Form_Load() {
     BeginFormLoad(*this, kDefaultTimeLimit);
     GameInProgress = false;
-    BonusScore = kDefaultBonusScore;
-    TimeBonusMax = kDefaultTimeBonusMax;
-    TimeBonusMin = kDefaultTimeBonusMin;
-    WaitPeriod = kDefaultWaitPeriod;
-    CardsToPass = kDefaultCardsToPass;
-    PassesLeft = CardsToPass;
+    Scoring = {};
+    PassesLeft = Scoring.CardsToPass;
     c("mnuSounds").setChecked(true);
     ShowWelcome(*this);
     c("StatusBar1").setPanel(1, "Welcome to " + AppTitle + "   ");
     raise(&c("mnu60"), Ev::Click);
     ReadSettingsINI(kSettingsFile, SettingsSections());
-    TimeBonusDecay = fivestack::TimeBonusDecay(TimeBonusMax, TimeBonusMin, TimeLimit);
+    TimeBonusDecay = fivestack::TimeBonusDecay(Scoring.TimeBonusMax, Scoring.TimeBonusMin, TimeLimit);
     CompleteFormLoad(*this, kTable, kDefaultTopScore);
     CheckForCustom();
     if (PassesLeft == 0) c("cmdPass").setEnabled(false);
@@ -361,7 +357,7 @@ void frmFivestack::PlaceBoard() {
 
 void frmFivestack::mnuTime_Click(const char* menu) {
     ChooseTimeLimit(*this, kTimeEntries, menu);
-    TimeBonusDecay = fivestack::TimeBonusDecay(TimeBonusMax, TimeBonusMin, TimeLimit);
+    TimeBonusDecay = fivestack::TimeBonusDecay(Scoring.TimeBonusMax, Scoring.TimeBonusMin, TimeLimit);
     ShowHighScore(kTable, *this, kDefaultTopScore);
 }
 
@@ -378,11 +374,11 @@ void frmFivestack::mnuClear_Click() {
 void frmFivestack::mnuCustom_Click() { runtime().show("frmFivestackCustomScoring", true); }
 
 void frmFivestack::CheckForCustom() {
-    CustomScoringInUse = IsCustomScoring(TimeBonusMin, TimeBonusMax, BonusScore, PassesLeft);
+    CustomScoringInUse = IsCustomScoring(Scoring, PassesLeft);
 }
 
 void frmFivestack::ShowBonusGoal() {
-    c("StatusBar1").setPanel(1, "Make " + FormatScore(BonusScore) + " for bonus round.  ");
+    c("StatusBar1").setPanel(1, "Make " + FormatScore(Scoring.BonusScore) + " for bonus round.  ");
 }
 
 }  // namespace ch

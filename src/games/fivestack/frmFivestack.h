@@ -29,13 +29,9 @@ public:
     explicit frmFivestack(Runtime& runtime);
 
     // Settings the User Options dialog writes field by field.
-    int32_t BonusScore = fivestack::kDefaultBonusScore;
-    int16_t TimeBonusMax = fivestack::kDefaultTimeBonusMax;
-    int16_t TimeBonusMin = fivestack::kDefaultTimeBonusMin;
+    fivestack::ScoringValues Scoring;
     float TimeBonusDecay = 0;
-    int16_t WaitPeriod = fivestack::kDefaultWaitPeriod;
-    int16_t CardsToPass = fivestack::kDefaultCardsToPass;
-    int16_t PassesLeft = fivestack::kDefaultCardsToPass;
+    int16_t PassesLeft = fivestack::ScoringValues{}.CardsToPass;
 
     // CustomScoringInUse from the four scoring values.
     void CheckForCustom();

@@ -1,9 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The User Options dialog of Fivestack.
+// The User Options dialog of Fivestack. OK checks the boxes in a fixed order
+// (passes, wait, bonus, maximum, minimum); in each box the tests run in order
+// until one fails. A box that fails shows its message over the text typed,
+// then takes its put-back text and the focus, and only then is its clamped
+// value stored. What passed, and what was clamped, is the game's at once,
+// whatever the rest; a failed Time Bonus limit is not taken. The rest of OK
+// follows every time.
 #include "games/fivestack/frmFivestackCustomScoring.h"
 
 #include "games/fivestack/frmFivestack.h"
 #include "suite/common.h"
+#include "suite/scoringdialog.h"
 #include "suite/userdialog.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -34,8 +41,36 @@ const ControlSpec kLayout[] = {
     {K::Button, "cmdDefault", -1, 2460, 3960, 1335, 400, "&Default"},
     {K::Button, "cmdCancel", -1, 4320, 3960, 1335, 400, "&Cancel"},
 };
-const char* const kBoxes[] = {"txtBonus", "txtTimeBonusMax", "txtTimeBonusMin", "txtWaitPeriod",
-                              "txtNumberOfCardsToPass"};
+
+// A maximum not above the minimum shows the minimum plus one, a minimum not
+// below the maximum the maximum less one; the minimum reads the maximum's box
+// as the maximum's check left it.
+const ScoringField kFields[] = {
+    PassesField(),
+    WaitField(30, "Sorry, a maximum of 30 seconds is allowed for the waiting period between rounds."),
+    {.box = "txtBonus", .lowest = 0, .highest = 2147483647.0,
+     .lowMessage = "Sorry, a minimum of 0 is required for the bonus round score.",
+     .highMessage = "Sorry, the maximum value for achieving a bonus round is 2147483647."},
+    {.box = "txtTimeBonusMax", .lowest = 0, .highest = 10000,
+     .lowMessage = "Sorry, the maximum time bonus value must be greater than 0.",
+     .highMessage = "Sorry, the maximum time bonus value must not exceed 10000.", .lowestFails = true,
+     .above = "txtTimeBonusMin",
+     .aboveMessage = "Sorry, the maximum time bonus value must be greater than the minimum time bonus value.",
+     .keepsValueOnFailure = true},
+    {.box = "txtTimeBonusMin", .lowest = 0, .highest = 10000,
+     .lowMessage = "Sorry, the minimum time bonus value must be greater than 0.",
+     .highMessage = "Sorry, the minimum time bonus value must not exceed 10000.", .lowestFails = true,
+     .below = "txtTimeBonusMax",
+     .belowMessage = "Sorry, the minimum time bonus value must be less than the maximum time bonus value.",
+     .keepsValueOnFailure = true},
+};
+const ScoringPolicy kPolicy{.order = {FailureStep::Message, FailureStep::Show, FailureStep::Focus, FailureStep::Store},
+                            .finish = ScoringPolicy::Finish::Always};
+
+std::vector<std::string> Texts(const ScoringValues& v) {
+    return {NumText(v.CardsToPass), ScoringNumberText(v.WaitPeriod / 1000.0), NumText(v.BonusScore),
+            NumText(v.TimeBonusMax), NumText(v.TimeBonusMin)};
+}
 }  // namespace
 
 frmFivestackCustomScoring::frmFivestackCustomScoring(Runtime& runtime) : Form(runtime, "frmFivestackCustomScoring") {
@@ -43,21 +78,10 @@ frmFivestackCustomScoring::frmFivestackCustomScoring(Runtime& runtime) : Form(ru
     add(kLayout);
     BindScoringDialog(
         *this, [this] { Form_Load(); }, [this] { cmdOK_Click(); }, [this] { cmdDefault_Click(); }, true);
-    for (const char* name : kBoxes) SelectAllOnFocus(*this, name);
+    for (const ScoringField& f : kFields) SelectAllOnFocus(*this, f.box);
 }
 
 frmFivestack& frmFivestackCustomScoring::game() const { return runtime().form<frmFivestack>("frmFivestack"); }
-
-Control& frmFivestackCustomScoring::box(OptionField field) const {
-    switch (field) {
-        case OptionField::Passes: return c("txtNumberOfCardsToPass");
-        case OptionField::Wait: return c("txtWaitPeriod");
-        case OptionField::Bonus: return c("txtBonus");
-        case OptionField::Maximum: return c("txtTimeBonusMax");
-        case OptionField::Minimum: break;
-    }
-    return c("txtTimeBonusMin");
-}
 
 // Centred over the game window, the boxes filled from its values.
 void frmFivestackCustomScoring::Form_Load() {
@@ -67,53 +91,36 @@ void frmFivestackCustomScoring::Form_Load() {
     c("lblInfo").setCaption(
         "Note: Changing any of the Scoring Options or the number of cards a user may pass will cause your high "
         "scores to be marked with an * indicating custom scoring was in use.");
-    c("txtBonus").setText(NumText(g.BonusScore));
-    c("txtTimeBonusMax").setText(NumText(g.TimeBonusMax));
-    c("txtTimeBonusMin").setText(NumText(g.TimeBonusMin));
-    c("txtWaitPeriod").setText(NumberText(g.WaitPeriod / 1000.0));
-    c("txtNumberOfCardsToPass").setText(NumText(g.CardsToPass));
+    ShowScoringTexts(*this, kFields, Texts(g.Scoring));
     c("chkCountScore").setValue(CountDownScore ? 1 : 0);
 }
 
 void frmFivestackCustomScoring::cmdDefault_Click() {
-    c("txtBonus").setText(NumText(kDefaultBonusScore));
-    c("txtTimeBonusMax").setText(NumText(kDefaultTimeBonusMax));
-    c("txtTimeBonusMin").setText(NumText(kDefaultTimeBonusMin));
-    c("txtWaitPeriod").setText(NumberText(kDefaultWaitPeriod / 1000.0));
-    c("txtNumberOfCardsToPass").setText(NumText(kDefaultCardsToPass));
+    ShowScoringTexts(*this, kFields, Texts(ScoringValues{}));
     c("chkCountScore").setValue(1);
 }
 
-// Each failed field shows its message and takes the text of its test; what
-// passed, and what was clamped, is the game's at once, whatever the rest.
 void frmFivestackCustomScoring::cmdOK_Click() {
     frmFivestack& g = game();
-    bool close = false;
-    try {
-        OptionTexts texts{c("txtNumberOfCardsToPass").text(), c("txtWaitPeriod").text(), c("txtBonus").text(),
-                          c("txtTimeBonusMax").text(), c("txtTimeBonusMin").text()};
-        OptionValues values{g.PassesLeft, g.CardsToPass, g.WaitPeriod, g.BonusScore, g.TimeBonusMax, g.TimeBonusMin};
-        close = CheckOptions(texts, values, [this](OptionField field, const std::string& message, const std::string& text) {
-            MsgBox(message, MsgButtons::OK, MsgIcon::Information, AppTitle);
-            Control& failed = box(field);
-            failed.setText(text);
-            setFocus(failed);
-        });
-        g.PassesLeft = values.passesLeft;
-        g.CardsToPass = values.cardsToPass;
-        g.WaitPeriod = values.waitPeriod;
-        g.BonusScore = values.bonusScore;
-        g.TimeBonusMax = values.timeBonusMax;
-        g.TimeBonusMin = values.timeBonusMin;
-        g.TimeBonusDecay = TimeBonusDecay(g.TimeBonusMax, g.TimeBonusMin, TimeLimit);
+    const auto store = [&g](size_t field, long long value, bool passed) {
+        switch (field) {
+            case 0:
+                g.PassesLeft = CInt(static_cast<double>(value));
+                if (passed) g.Scoring.CardsToPass = g.PassesLeft;
+                break;
+            case 1: g.Scoring.WaitPeriod = CInt(static_cast<double>(value)); break;
+            case 2: g.Scoring.BonusScore = CLng(static_cast<double>(value)); break;
+            case 3: g.Scoring.TimeBonusMax = CInt(static_cast<double>(value)); break;
+            default: g.Scoring.TimeBonusMin = CInt(static_cast<double>(value)); break;
+        }
+    };
+    const auto finish = [this, &g] {
+        g.TimeBonusDecay = TimeBonusDecay(g.Scoring.TimeBonusMax, g.Scoring.TimeBonusMin, TimeLimit);
         CountDownScore = c("chkCountScore").value() == 1;
         g.CheckForCustom();
         g.ShowBonusGoal();
-    } catch (const RuntimeError& e) {
-        MsgBox(e.description(), MsgButtons::OK, MsgIcon::Exclamation, AppTitle);
-        close = false;
-    }
-    if (close) runtime().unload(*this);
+    };
+    if (CheckScoringFields(*this, kFields, kPolicy, store, finish)) runtime().unload(*this);
 }
 
 }  // namespace ch

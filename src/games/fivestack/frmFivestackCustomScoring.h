@@ -5,7 +5,6 @@
 // they reach the settings file when the window closes.
 #pragma once
 
-#include "games/fivestack/modFivestack.h"
 #include "window/form.h"
 
 namespace ch {
@@ -18,7 +17,6 @@ public:
 
 private:
     frmFivestack& game() const;
-    Control& box(fivestack::OptionField field) const;
     void Form_Load();
     void cmdDefault_Click();
     void cmdOK_Click();

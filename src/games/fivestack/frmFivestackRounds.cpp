@@ -144,7 +144,7 @@ void frmFivestack::Timer1_Timer() {
     ElapsedSeconds += 1;
     DrawTimeDial(DialAngle(ElapsedSeconds), *this);
     DialSeconds = ElapsedSeconds;
-    TimeBonus = TimeBonusAt(ElapsedSeconds, TimeBonusMax, TimeBonusMin, TimeBonusDecay);
+    TimeBonus = TimeBonusAt(ElapsedSeconds, Scoring.TimeBonusMax, Scoring.TimeBonusMin, TimeBonusDecay);
     c("lblTimeBonus").setCaption(Str(TimeBonus));
     c("lblTime").setCaption("Time Bonus:");
     if (ElapsedSeconds < TimeLimit) return;
@@ -157,7 +157,7 @@ void frmFivestack::Timer1_Timer() {
     message.setVisible(true);
     c("ScoringLabelOutline").setVisible(true);
     runtime().refresh();
-    Sleep(WaitPeriod);
+    Sleep(Scoring.WaitPeriod);
     cmdGiveUp_Click();
 }
 
@@ -241,11 +241,11 @@ void frmFivestack::TakeScore() {
         ShowScoringLabel(true);
         c("ScoringLabelOutline").setVisible(true);
         runtime().refresh();
-        Sleep(WaitPeriod);
+        Sleep(Scoring.WaitPeriod);
         if (CardTotalValue == kAwesomeValue) {
             info.setCaption("Totally Awesome Score!");
             Wave("\\Applause.wav");
-            Sleep(2 * WaitPeriod);
+            Sleep(2 * Scoring.WaitPeriod);
         }
         message.setForeColor(kRed);
         if (CountDownScore) {
@@ -288,7 +288,7 @@ void frmFivestack::CountRoundScore(int32_t roundScore) {
 
 bool frmFivestack::EndRound(int16_t& round) {
     ElapsedSeconds = 0;
-    if (CurrentRound == 4 && CurrentScore < BonusScore) CurrentRound = 5;
+    if (CurrentRound == 4 && CurrentScore < Scoring.BonusScore) CurrentRound = 5;
     if (PlayMusic) StopMusic();
     if (round >= 1 && round <= 4) {
         StartRound();
@@ -360,7 +360,7 @@ void frmFivestack::StartRound() {
     CenterScoringLabel();
     message.setVisible(true);
     runtime().refresh();
-    Sleep(WaitPeriod);
+    Sleep(Scoring.WaitPeriod);
     c("ScoringLabelOutline").setVisible(false);
     message.setVisible(false);
     ShowCards(true);
@@ -391,8 +391,8 @@ bool frmFivestack::Reset() {
     c("Timer1").setEnabled(false);
     ElapsedSeconds = 0;
     c("ScoringLabel").setFontSize(18);
-    c("lblTimeBonus").setCaption(Str(TimeBonusMax));
-    PassesLeft = CardsToPass;
+    c("lblTimeBonus").setCaption(Str(Scoring.TimeBonusMax));
+    PassesLeft = Scoring.CardsToPass;
     ClearBoard();
     return true;
 }

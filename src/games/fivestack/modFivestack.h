@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of Fivestack as plain data and functions: card values, aces, the
 // play of a card on a column and the rescue of a column by its soft ace, the
-// Card Total Value table, the falling Time Bonus, the default settings, and
-// the checks of the User Options dialog.
+// Card Total Value table, the falling Time Bonus, and the scoring values with
+// their defaults.
 #pragma once
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <string>
 
 namespace ch::fivestack {
@@ -34,11 +33,16 @@ inline constexpr const char* kColumnLines[kColumns] = {"Column1Line", "Column2Li
                                                        "Column5Line"};
 
 constexpr int16_t kDefaultTimeLimit = 60;
-constexpr int16_t kDefaultTimeBonusMax = 300;
-constexpr int16_t kDefaultTimeBonusMin = 100;
-constexpr int32_t kDefaultBonusScore = 200000;
-constexpr int16_t kDefaultWaitPeriod = 2000;
-constexpr int16_t kDefaultCardsToPass = 1;
+
+// The values the User Options dialog edits, with their defaults; the
+// settings file keeps them.
+struct ScoringValues {
+    int32_t BonusScore = 200000;  // the score after round 3 that earns the bonus round
+    int16_t TimeBonusMax = 300;   // the Time Bonus at second 0
+    int16_t TimeBonusMin = 100;   // the Time Bonus at the time limit
+    int16_t WaitPeriod = 2000;    // milliseconds between rounds
+    int16_t CardsToPass = 1;      // cards a player may pass each round
+};
 
 // A card code's value: its leading number, and 10 for anything above 10. An
 // ace comes back as 1 and is judged by AceWorth.
@@ -94,38 +98,8 @@ float TimeBonusDecay(int timeBonusMax, int timeBonusMin, int timeLimit);
 // time limit.
 int32_t TimeBonusAt(int elapsed, int timeBonusMax, int timeBonusMin, float decay);
 
-// A high score made under other values than these four defaults is marked.
-bool IsCustomScoring(int timeBonusMin, int timeBonusMax, int32_t bonusScore, int passesLeft);
-
-// A number as the dialog's boxes show it: a whole number without a decimal
-// part ("2"), a fraction as it is ("1.5").
-std::string NumberText(double value);
-
-// ---- The User Options dialog's check ------------------------------------------
-enum class OptionField { Passes, Wait, Bonus, Maximum, Minimum };
-
-// The texts of the dialog's boxes, as the check reads and rewrites them.
-struct OptionTexts {
-    std::string passes, wait, bonus, maximum, minimum;
-    std::string& of(OptionField field);
-};
-// The values the check stores, field by field.
-struct OptionValues {
-    int16_t passesLeft = kDefaultCardsToPass;
-    int16_t cardsToPass = kDefaultCardsToPass;
-    int16_t waitPeriod = kDefaultWaitPeriod;
-    int32_t bonusScore = kDefaultBonusScore;
-    int16_t timeBonusMax = kDefaultTimeBonusMax;
-    int16_t timeBonusMin = kDefaultTimeBonusMin;
-};
-// Told of each failed test in turn: the message and the text the box takes.
-using OptionFailure = std::function<void(OptionField field, const std::string& message, const std::string& text)>;
-
-// Checks the fields in their fixed order (passes, wait, bonus, maximum,
-// minimum). In each field the tests run in order until one fails: its
-// message is reported and the box takes the text the test gives; a clamped
-// value is stored. A field that passes is stored at once, rounded to a whole
-// number. Text that is no number counts as 0. True when every test passed.
-bool CheckOptions(OptionTexts& texts, OptionValues& values, const OptionFailure& failed);
+// A high score made under other values than the defaults of the Time Bonus
+// range, the bonus score and the passes left is marked.
+bool IsCustomScoring(const ScoringValues& values, int passesLeft);
 
 }  // namespace ch::fivestack

@@ -14,11 +14,12 @@ using namespace fivestack;
 namespace {
 std::string FivestackRules() {
     const auto* game = static_cast<const frmFivestack*>(Runtime::current().loaded("frmFivestack"));
-    const int32_t bonusScore = game ? game->BonusScore : kDefaultBonusScore;
-    const int timeBonusMax = game ? game->TimeBonusMax : kDefaultTimeBonusMax;
-    const int timeBonusMin = game ? game->TimeBonusMin : kDefaultTimeBonusMin;
+    const ScoringValues values = game ? game->Scoring : ScoringValues{};
+    const int32_t bonusScore = values.BonusScore;
+    const int timeBonusMax = values.TimeBonusMax;
+    const int timeBonusMin = values.TimeBonusMin;
     const float decay = game ? game->TimeBonusDecay : TimeBonusDecay(timeBonusMax, timeBonusMin, TimeLimit);
-    const int cardsToPass = game ? game->CardsToPass : kDefaultCardsToPass;
+    const int cardsToPass = values.CardsToPass;
     return RulesText(33, {
         "Requirements: To run " + AppTitle + " you need Windows 95 or above " + "and a mouse. " +
             " Recommended: Soundcard.",

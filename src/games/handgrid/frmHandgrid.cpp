@@ -181,7 +181,7 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
     });
     expose("HandScores", [this](int index, Value& out) {
         if (index < 0 || index >= kHands) return false;
-        out = static_cast<long long>(HandScores[static_cast<size_t>(index)]);
+        out = static_cast<long long>(Scoring.HandScores[static_cast<size_t>(index)]);
         return true;
     });
     expose("RoundDeck", Expose(RoundDeck));
@@ -189,12 +189,12 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
     expose("DeckPosition", Expose(DeckPosition));
     expose("HoleCount", Expose(HoleCount));
     expose("CardsRemaining", Expose(CardsRemaining));
-    expose("OverWritesAllowed", Expose(OverWritesAllowed));
+    expose("OverWritesAllowed", Expose(Scoring.OverWritesAllowed));
     expose("OverWritesUsed", Expose(OverWritesUsed));
     expose("RoundPoints", Expose(RoundPoints));
     expose("HandSoundPlayed", Expose(HandSoundPlayed));
     expose("CurrentRound", Expose(CurrentRound));
-    expose("BonusScore", Expose(BonusScore));
+    expose("BonusScore", Expose(Scoring.BonusScore));
 }
 
 // ---- Loading and closing ---------------------------------------------------------
@@ -208,7 +208,9 @@ SettingsLayout frmHandgrid::SettingsSections() {
         section.name = name;
         return section;
     };
-    const auto hand = [&](const char* name, Hand h) { return named(name, number32(HandScores[static_cast<size_t>(h)])); };
+    const auto hand = [&](const char* name, Hand h) {
+        return named(name, number32(Scoring.HandScores[static_cast<size_t>(h)]));
+    };
     SettingsLayout layout = {
         TimeSection(*this, kReadableTimes),
         PlaySoundsSection(*this),
@@ -217,7 +219,7 @@ SettingsLayout frmHandgrid::SettingsSections() {
          [] { return std::string(BoolText(CountDownScore)); }},
         DeckSection(*this, kDeckMenus),
         named("[Time Bonus]", number32(TimeBonus)),
-        named("[Bonus Score]", number32(BonusScore)),
+        named("[Bonus Score]", number32(Scoring.BonusScore)),
         hand("[Pair Score]", OnePair),
         hand("[Two Pair Score]", TwoPair),
         hand("[Trips Score]", Trips),
@@ -227,8 +229,8 @@ SettingsLayout frmHandgrid::SettingsSections() {
         hand("[Four Score]", Four),
         hand("[Straight Flush Score]", StraightFlush),
         hand("[Royal Flush Score]", RoyalFlush),
-        {"[Over Writes]", [this](const std::string& v) { OverWritesAllowed = CInt(Val(v)); },
-         [this] { return NumText(OverWritesAllowed); }},
+        {"[Over Writes]", [this](const std::string& v) { Scoring.OverWritesAllowed = CInt(Val(v)); },
+         [this] { return NumText(Scoring.OverWritesAllowed); }},
     };
     for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
     return layout;
@@ -236,10 +238,8 @@ SettingsLayout frmHandgrid::SettingsSections() {
 
 void frmHandgrid::Form_Load() {
     BeginFormLoad(*this, kDefaultTimeLimit, "mnu75");
-    BonusScore = kDefaultBonusScore;
+    Scoring = {};
     TimeBonus = kDefaultTimeBonus;
-    HandScores = kDefaultHandValues;
-    OverWritesAllowed = kDefaultOverWrites;
     HandSoundPlayed = false;
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
@@ -256,11 +256,11 @@ void frmHandgrid::Form_QueryUnload(EventArgs& args) {
 }
 
 void frmHandgrid::CheckForCustom() {
-    CustomScoringInUse = IsCustomScoring(HandScores, TimeBonus, BonusScore, OverWritesAllowed);
+    CustomScoringInUse = IsCustomScoring(Scoring, TimeBonus);
 }
 
 void frmHandgrid::ShowBonusGoal() {
-    c("StatusBar1").setPanel(1, "Make " + FormatScore(BonusScore) + " for bonus round.  ");
+    c("StatusBar1").setPanel(1, "Make " + FormatScore(Scoring.BonusScore) + " for bonus round.  ");
 }
 
 // The cards keep their size: a larger window moves the whole board to its

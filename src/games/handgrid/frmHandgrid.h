@@ -25,9 +25,7 @@ public:
     explicit frmHandgrid(Runtime& runtime);
 
     // Scoring values; the custom scoring dialog writes them.
-    handgrid::HandValues HandScores = handgrid::kDefaultHandValues;
-    int32_t BonusScore = handgrid::kDefaultBonusScore;
-    int16_t OverWritesAllowed = handgrid::kDefaultOverWrites;
+    handgrid::ScoringValues Scoring;
 
     // CustomScoringInUse from the values in force.
     void CheckForCustom();

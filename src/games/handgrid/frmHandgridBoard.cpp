@@ -30,7 +30,7 @@ void frmHandgrid::PlayCards_Click(int Index) {
     RoundPoints = 0;
     std::string& cell = PlayedCards[static_cast<size_t>(Index)];
     const bool filled = !cell.empty();
-    const bool accepted = (!filled && HoleCount > 0) || (filled && OverWritesUsed < OverWritesAllowed);
+    const bool accepted = (!filled && HoleCount > 0) || (filled && OverWritesUsed < Scoring.OverWritesAllowed);
     if (!accepted) {
         Wave("\\Chord.wav");
     } else {
@@ -83,7 +83,7 @@ void frmHandgrid::EvaluateHand(const Line& Hand, int LineNumber, bool IsRows) {
     const handgrid::Hand hand = handgrid::EvaluateHand(Hand);
     // A 32-bit sum: hand values from the settings file can carry it past its
     // range, which is the run-time error "Overflow".
-    RoundPoints = CLng(static_cast<double>(RoundPoints) + HandScores[static_cast<size_t>(hand)]);
+    RoundPoints = CLng(static_cast<double>(RoundPoints) + Scoring.HandScores[static_cast<size_t>(hand)]);
     c("lblPointsEarned").setCaption("Points Earned: " + NumText(RoundPoints));
     Control& label = c(IsRows ? "lblRow" : "lblCol", LineNumber);
     label.setCaption(HandName(hand));
@@ -152,7 +152,7 @@ void frmHandgrid::Reset(bool EndOfGame) {
         c("cmdPause").setEnabled(false);
         c("HoleCard").setBorderStyle(0);
         DeckPosition = 0;
-        c("lblOverwrites").setCaption(OverWritesText(OverWritesAllowed));
+        c("lblOverwrites").setCaption(OverWritesText(Scoring.OverWritesAllowed));
         OverWritesUsed = 0;
         for (int i = 0; i < kCells; ++i) c("PlayCards", i).setBorderStyle(0);
     }
@@ -190,7 +190,7 @@ void frmHandgrid::ShowControls(bool RoundControls, bool FrameControls) {
 }
 
 void frmHandgrid::ShowOverWrites() {
-    c("lblOverwrites").setCaption(OverWritesText(OverWritesAllowed - OverWritesUsed));
+    c("lblOverwrites").setCaption(OverWritesText(Scoring.OverWritesAllowed - OverWritesUsed));
 }
 
 // ---- Labels that place themselves ---------------------------------------------------------

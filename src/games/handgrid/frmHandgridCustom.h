@@ -19,9 +19,6 @@ private:
     void Form_Load();
     void cmdDefault_Click();
     void cmdOK_Click();
-    // The shared variable a field edits.
-    void Store(int field, double value);
-    long long Stored(int field) const;
 };
 
 }  // namespace ch

@@ -171,7 +171,7 @@ void frmHandgrid::NextRound() {
     scoring.setFont("MS Sans Serif", 18, scoring.fontBold());
 
     const bool anotherRound = CurrentRound < 4;
-    const bool bonusRound = CurrentRound == 4 && CurrentScore >= BonusScore;
+    const bool bonusRound = CurrentRound == 4 && CurrentScore >= Scoring.BonusScore;
     if (!anotherRound && !bonusRound) {
         GameOver();
         return;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Handgrid's rules: naming a poker hand in a line of five cells, the grid's
-// transposition, the tables of hand values, stack pictures and the scoring
-// dialog's fields.
+// transposition, the tables of hand names and stack pictures, and whether the
+// scoring is custom.
 #include "games/handgrid/modHandgrid.h"
 
 #include <cmath>
@@ -16,7 +16,6 @@ const std::array<const char*, kHands> kHandNames = {
     "Royal Flush",
 };
 
-const HandValues kDefaultHandValues = {0, 50, 70, 80, 90, 100, 200, 300, 400, 500};
 
 int HandColour(const std::string& handName) {
     return handName == kHandNames[Nothing] ? kButtonTextColour : kHandColour;
@@ -114,41 +113,10 @@ int OverWritesColour(const std::string& caption) {
     return zero ? 255 : 0xFF0000;
 }
 
-namespace {
-const char* const k50000 = " must be between 0 and 50,000 points.";
-}  // namespace
-
-const std::array<ScoringField, kScoringFields> kScoringFieldTable = {{
-    {"txtPairScore", "lblPairScore", "Pair Score Value:", 50000, 6000, k50000},
-    {"txt2PairScore", "lbl2PairScore", "2 Pair Score Value:", 50000, 7000, k50000},
-    {"txt3ofakindScore", "lbl3ofakindScore", "3 of a Kind Score Value:", 50000, 8000, k50000},
-    {"txtStraightScore", "lblStraightScore", "Straight Score Value:", 50000, 9000, k50000},
-    {"txtFlushScore", "lblFlushScore", "Flush Score Value:", 50000, 10000, k50000},
-    {"txtFullHouseScore", "lblFullHouseScore", "Full House Score Value:", 50000, 20000, k50000},
-    {"txt4ofakindScore", "lbl4ofakindScore", "4 of a Kind Score Value:", 50000, 30000, k50000},
-    {"txtStFlushScore", "lblStFlushScore", "Straight Flush Score Value:", 50000, 40000, k50000},
-    {"txtRoyalFlushScore", "lblRoyalFlushScore", "Royal Flush Score Value:", 100000, 50000,
-     " must be between 0 and 100,000 points."},
-    {"txtBonusScore", "lblBonusScore", "Score required for bonus round:", 1000000, 100000,
-     " must be between 0 and 1,000,000 points."},
-    {"txtOverWrites", "lblOverWrites", "Number of overwrites allowed", 26, 1, " must be between 0 and 26 points."},
-    {"txtTimeBonus", "lblTimeBonus", "Time Bonus (per second multipler)", 10, 1, ""},
-}};
-
-std::string OutOfRangeMessage(int field) {
-    if (field == kTimeBonusField) return "Sorry, the Time Bonus value must be between 0 and 10 points.";
-    const ScoringField& f = kScoringFieldTable[static_cast<size_t>(field)];
-    return std::string("Sorry, the ") + f.caption + f.rangeText;
-}
-
-bool InRange(int field, double value) {
-    return value >= 0 && value <= kScoringFieldTable[static_cast<size_t>(field)].max;
-}
-
-bool IsCustomScoring(const HandValues& values, int32_t timeBonus, int32_t bonusScore, int16_t overWrites) {
-    for (int hand = OnePair; hand < kHands; ++hand)
-        if (values[static_cast<size_t>(hand)] != kDefaultHandValues[static_cast<size_t>(hand)]) return true;
-    return timeBonus != kDefaultTimeBonus || bonusScore != kDefaultBonusScore || overWrites != kDefaultOverWrites;
+bool IsCustomScoring(const ScoringValues& values, int32_t timeBonus) {
+    const ScoringValues d;
+    return values.HandScores != d.HandScores || timeBonus != kDefaultTimeBonus || values.BonusScore != d.BonusScore ||
+           values.OverWritesAllowed != d.OverWritesAllowed;
 }
 
 }  // namespace ch::handgrid

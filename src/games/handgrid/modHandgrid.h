@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of Handgrid as plain data and functions: the ten poker hands with
 // their names and default points, how one line of five cells is named, the
-// transposition of the grid, the stack picture, the default settings and the
-// fields of the custom scoring dialog.
+// transposition of the grid, the stack picture, and the scoring values with
+// their defaults.
 #pragma once
 
 #include <array>
@@ -24,13 +24,18 @@ constexpr int kHands = 10;
 extern const std::array<const char*, kHands> kHandNames;
 // Points of each hand by Hand; Nothing is always 0.
 using HandValues = std::array<int32_t, kHands>;
-extern const HandValues kDefaultHandValues;
+
+// The values the custom scoring dialog edits, with their defaults; the
+// settings file keeps them.
+struct ScoringValues {
+    HandValues HandScores = {0, 50, 70, 80, 90, 100, 200, 300, 400, 500};
+    int32_t BonusScore = 100000;     // the score that earns the bonus round
+    int16_t OverWritesAllowed = 3;   // filled cells a round may overwrite
+};
 
 // Default settings of the game.
 constexpr int16_t kDefaultTimeLimit = 75;
-constexpr int32_t kDefaultBonusScore = 100000;
-constexpr int32_t kDefaultTimeBonus = 1;
-constexpr int16_t kDefaultOverWrites = 3;
+constexpr int32_t kDefaultTimeBonus = 1;  // the suite's TimeBonus while Handgrid is open
 
 // Label colours: a hand name in blue, "Nothing" in the system's button text
 // colour (the platform's 0x80000012).
@@ -65,30 +70,8 @@ const char* StackPictureKey(int cardsLeft);
 std::string OverWritesText(int remaining);
 int OverWritesColour(const std::string& caption);
 
-// The custom scoring dialog: its text boxes in the order of the checks, what
-// each edits, its range and the value put back when it is out of range.
-struct ScoringField {
-    const char* textBox;       // "txtPairScore"
-    const char* label;         // "lblPairScore"
-    const char* caption;       // "Pair Score Value:"
-    int32_t max;               // the range is 0 to max
-    int32_t putBack;
-    const char* rangeText;     // " must be between 0 and 50,000 points."
-};
-constexpr int kScoringFields = 12;
-// Fields 0 to 8 edit the hands OnePair to RoyalFlush; then the bonus score,
-// the overwrites and the time bonus.
-constexpr int kBonusScoreField = 9;
-constexpr int kOverWritesField = 10;
-constexpr int kTimeBonusField = 11;
-extern const std::array<ScoringField, kScoringFields> kScoringFieldTable;
-// The message of a field whose value is out of range.
-std::string OutOfRangeMessage(int field);
-// True when the text's number lies within the field's range, both ends in.
-bool InRange(int field, double value);
-
 // True when any scoring value differs from its default (time limit and the
 // count-down switch do not count).
-bool IsCustomScoring(const HandValues& values, int32_t timeBonus, int32_t bonusScore, int16_t overWrites);
+bool IsCustomScoring(const ScoringValues& values, int32_t timeBonus);
 
 }  // namespace ch::handgrid

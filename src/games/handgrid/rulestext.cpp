@@ -14,9 +14,10 @@ using namespace handgrid;
 
 std::string HandgridRules() {
     const frmHandgrid* game = static_cast<const frmHandgrid*>(Runtime::current().loaded("frmHandgrid"));
-    const HandValues v = game ? game->HandScores : kDefaultHandValues;
-    const int32_t bonus = game ? game->BonusScore : kDefaultBonusScore;
-    const int overWrites = game ? game->OverWritesAllowed : kDefaultOverWrites;
+    const ScoringValues values = game ? game->Scoring : ScoringValues{};
+    const HandValues& v = values.HandScores;
+    const int32_t bonus = values.BonusScore;
+    const int overWrites = values.OverWritesAllowed;
     const auto points = [&v](Hand hand) { return NumText(v[static_cast<size_t>(hand)]); };
     const std::string table = "   One Pair = " + points(OnePair) + "\r\n" + "   Two Pair = " + points(TwoPair) + "\r\n" +
                               "   Three of a kind = " + points(Trips) + "\r\n" + "   Straight = " + points(Straight) +

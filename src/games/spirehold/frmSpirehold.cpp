@@ -176,10 +176,10 @@ frmSpirehold::frmSpirehold(Runtime& runtime) : Form(runtime, "frmSpirehold") {
     on("mnuClearHighRun", Ev::Click, [this](EventArgs&) { mnuClearHighRun_Click(); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
 
-    expose("CardValue", Expose(CardValue));
-    expose("BonusScore", Expose(BonusScore));
-    expose("HighRunBonus", Expose(HighRunBonus));
-    expose("TowerBonus", Expose(TowerBonus));
+    expose("CardValue", Expose(Scoring.CardValue));
+    expose("BonusScore", Expose(Scoring.BonusScore));
+    expose("HighRunBonus", Expose(Scoring.HighRunBonus));
+    expose("TowerBonus", Expose(Scoring.TowerBonus));
     expose("StackIndex", Expose(StackIndex));
     expose("UpCardCode", Expose(UpCardCode));
     expose("UpCardValue", Expose(UpCardValue));
@@ -201,10 +201,10 @@ SettingsLayout frmSpirehold::SettingsSections() {
         TimeSection(*this, kTimeEntries),
         PlaySoundsSection(*this),
         NumberSection("[Hi Run]", HighestRun),
-        NumberSection("[Card Bonus]", CardValue),
-        NumberSection("[Bonus Score]", BonusScore),
-        NumberSection("[Tower Bonus]", TowerBonus),
-        NumberSection("[High Run Bonus]", HighRunBonus),
+        NumberSection("[Card Bonus]", Scoring.CardValue),
+        NumberSection("[Bonus Score]", Scoring.BonusScore),
+        NumberSection("[Tower Bonus]", Scoring.TowerBonus),
+        NumberSection("[High Run Bonus]", Scoring.HighRunBonus),
         CountDownSection(),
         NumberSection("[Time Bonus]", TimeBonus),
     };
@@ -215,10 +215,7 @@ SettingsLayout frmSpirehold::SettingsSections() {
 
 void frmSpirehold::Form_Load() {
     BeginFormLoad(*this, kDefaultTimeLimit, "mnu45");
-    CardValue = kDefaultCardValue;
-    BonusScore = kDefaultBonusScore;
-    HighRunBonus = kDefaultHighRunBonus;
-    TowerBonus = kDefaultTowerBonus;
+    Scoring = {};
     TimeBonus = kDefaultTimeBonus;
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
@@ -231,7 +228,7 @@ void frmSpirehold::Form_QueryUnload(EventArgs& args) {
 }
 
 void frmSpirehold::CheckForCustom() {
-    CustomScoringInUse = IsCustomScoring({CardValue, BonusScore, HighRunBonus, TowerBonus, TimeBonus});
+    CustomScoringInUse = IsCustomScoring(Scoring, TimeBonus);
 }
 
 // ---- Resize ------------------------------------------------------------------------

@@ -28,10 +28,7 @@ public:
     explicit frmSpirehold(Runtime& runtime);
 
     // Scoring values; the custom scoring dialog writes them (TimeBonus is shared).
-    int16_t CardValue = spirehold::kDefaultCardValue;
-    int32_t BonusScore = spirehold::kDefaultBonusScore;
-    int32_t HighRunBonus = spirehold::kDefaultHighRunBonus;
-    int32_t TowerBonus = spirehold::kDefaultTowerBonus;
+    spirehold::ScoringValues Scoring;
 
     // CustomScoringInUse from the five scoring values.
     void CheckForCustom();

@@ -46,7 +46,7 @@ void frmSpirehold::Deal() {
     ShowCardsRemaining();
     InitTimeDial(*this);
     c("Timer1").setEnabled(true);
-    c("StatusBar1").setPanel(1, "Make " + FormatScore(BonusScore) + " for Bonus Round!   ");
+    c("StatusBar1").setPanel(1, "Make " + FormatScore(Scoring.BonusScore) + " for Bonus Round!   ");
     c("StatusBar1").setPanel(2, "Create runs by clicking on exposed cards!   ");
     HideTowerLabels();
     NewHighRun = false;
@@ -82,7 +82,7 @@ void frmSpirehold::TakeCard(int index) {
     // The empty picture marks the card as gone.
     card.setPicture(0);
     card.setVisible(false);
-    RunValue = CInt(static_cast<double>(RunValue) + CardValue);
+    RunValue = CInt(static_cast<double>(RunValue) + Scoring.CardValue);
     AddToScore(RunValue);
     ShowScore();
     CurrentRun = CInt(CurrentRun + 1.0);
@@ -111,7 +111,7 @@ void frmSpirehold::lblCurrentRun_Change() {
         c("lblHighRun").setCaption("Highest Run: " + NumText(HighestRun));
         NewHighRun = true;
     }
-    c("lblNextCard").setCaption("Next card worth: " + NumText((CurrentRun + 1LL) * CardValue) + " points");
+    c("lblNextCard").setCaption("Next card worth: " + NumText((CurrentRun + 1LL) * Scoring.CardValue) + " points");
 }
 
 // Each step goes on whatever the one before did: past the end of the deck

@@ -19,8 +19,6 @@ private:
     void Form_Load();
     void cmdDefault_Click();
     void cmdOK_Click();
-    // The setting behind field `index` of the dialog's table.
-    void SetValue(size_t index, int32_t value);
 };
 
 }  // namespace ch

@@ -165,7 +165,7 @@ void frmSpirehold::TakeScore() {
         BlinkLabel(message, 11, 250);
         message.setVisible(false);
         InitRound();
-    } else if (CurrentRound == 3 && CurrentScore >= BonusScore) {
+    } else if (CurrentRound == 3 && CurrentScore >= Scoring.BonusScore) {
         message.setCaption("Prepare for Bonus Round!");
         Wave("\\Applause.wav");
         BlinkLabel(message, 11, 250);
@@ -199,7 +199,7 @@ void frmSpirehold::GameOver() {
 
 void frmSpirehold::TowerScore() {
     if (TowersCompleted > 0) {
-        AwardBonus(*this, "Tower Bonus!", TowersCompleted, TowerBonus);
+        AwardBonus(*this, "Tower Bonus!", TowersCompleted, Scoring.TowerBonus);
         TowersCompleted = 0;
     }
     c("lblScoring").setVisible(false);
@@ -213,7 +213,7 @@ void frmSpirehold::HighRunScore() {
         return;
     }
     NewHighRun = false;
-    AwardBonus(*this, "Highest Run Bonus", HighestRun, HighRunBonus, {.sixteenBitCount = true});
+    AwardBonus(*this, "Highest Run Bonus", HighestRun, Scoring.HighRunBonus, {.sixteenBitCount = true});
 }
 
 }  // namespace ch

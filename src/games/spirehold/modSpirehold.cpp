@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Spirehold's rules: the tower table, the neighbour rule, what a removal
-// turns over, the stack stages and the scoring checks.
+// turns over, the stack stages and whether the scoring is custom.
 #include "games/spirehold/modSpirehold.h"
 
 #include "suite/cards.h"
@@ -61,45 +61,10 @@ const char* StackStageKey(int stackIndex) {
     return "";
 }
 
-bool IsCustomScoring(const ScoringValues& v) {
-    return !(v.cardValue == kDefaultCardValue && v.bonusScore == kDefaultBonusScore &&
-             v.highRunBonus == kDefaultHighRunBonus && v.towerBonus == kDefaultTowerBonus &&
-             v.timeBonus == kDefaultTimeBonus);
-}
-
-const std::array<ScoringField, 5> kScoringFields = {{
-    {"txtCardValue", "lblCardValue", "When creating runs, each additional card increments card value by:", 0, 1000,
-     "Sorry, you cannot increment the card value by less than 0 points.",
-     "Sorry, you cannot increment the card value by greater than 1000 points", 1000},
-    {"txtBonusScore", "lblBonusScore", "Score required for bonus round:", 0, 900000,
-     "Sorry, a minimum of 0 points is required to make the bonus round.",
-     "Sorry, a maximum of 900000 points is required to make the bonus round.", 0},
-    {"txtRunBonus", "lblRunBonus", "High Run bonus (per card):", 0, 32767,
-     "Sorry, a minimum of 0 points is required when achieving the high run bonus.",
-     "Sorry, a maximum of 32767 points is required when achieving the high run bonus.", 32767},
-    {"txtCompletedTower", "lblCompletedTower", "Bonus for completing each tower", 0, 32767,
-     "Sorry, a minimum of 0 points is required when achieving when completing each tower.",
-     "Sorry, a maximum of 32767 points is required when completing each tower.", 32767},
-    {"txtTimeBonus", "lblTimeBonus", "Time Bonus (points per second)", 0, 32767,
-     "Sorry, you cannot set the Time Bonus value to less than 0 points.",
-     "Sorry, you cannot set the Time Bonus value to greater than 32767 points", 32767},
-}};
-
-FieldResult CheckScoringField(const ScoringField& field, const std::string& text, bool sixteenBit) {
-    const double v = Val(text);
-    FieldResult result;
-    if (v < field.lowest) {
-        result.check = FieldCheck::TooLow;
-        result.value = 0;
-        result.text = NumText(0);
-    } else if (v > field.highest) {
-        result.check = FieldCheck::TooHigh;
-        result.value = field.valueWhenHigh;
-        result.text = NumText(field.highest);
-    } else {
-        result.value = sixteenBit ? CInt(v) : CLng(v);
-    }
-    return result;
+bool IsCustomScoring(const ScoringValues& v, int32_t timeBonus) {
+    const ScoringValues d;
+    return !(v.CardValue == d.CardValue && v.BonusScore == d.BonusScore && v.HighRunBonus == d.HighRunBonus &&
+             v.TowerBonus == d.TowerBonus && timeBonus == kDefaultTimeBonus);
 }
 
 }  // namespace ch::spirehold

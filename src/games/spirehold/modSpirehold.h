@@ -2,8 +2,7 @@
 // The rules of Spirehold as plain data and functions: the 28 places of the
 // three towers and which places cover which, the neighbour rule of the run
 // (King and Ace are neighbours both ways), which cards a removal turns over,
-// the stages of the stack, the scoring defaults and the checks of the custom
-// scoring dialog.
+// the stages of the stack, and the scoring values with their defaults.
 #pragma once
 
 #include <array>
@@ -27,11 +26,7 @@ constexpr int kDesignWidth = 9570;
 constexpr int kDesignHeight = 7200;
 
 constexpr int16_t kDefaultTimeLimit = 45;
-constexpr int16_t kDefaultCardValue = 100;
-constexpr int32_t kDefaultBonusScore = 40000;
-constexpr int32_t kDefaultHighRunBonus = 1000;
-constexpr int32_t kDefaultTowerBonus = 5000;
-constexpr int32_t kDefaultTimeBonus = 100;
+constexpr int32_t kDefaultTimeBonus = 100;  // the suite's TimeBonus while Spirehold is open
 
 // One place of the towers at the window's design size.
 struct TowerPlace {
@@ -67,39 +62,15 @@ std::vector<int> CardsTurnedBy(int removed, const std::array<bool, kTowerCards>&
 // "HALF", "BACK", "EMPTY" at 52, and "" past it (the stack has run out).
 const char* StackStageKey(int stackIndex);
 
-// Whether the scoring values differ from the defaults (CustomScoringInUse).
+// The values the custom scoring dialog edits, with their defaults; the
+// settings file keeps them.
 struct ScoringValues {
-    int16_t cardValue = kDefaultCardValue;
-    int32_t bonusScore = kDefaultBonusScore;
-    int32_t highRunBonus = kDefaultHighRunBonus;
-    int32_t towerBonus = kDefaultTowerBonus;
-    int32_t timeBonus = kDefaultTimeBonus;
+    int16_t CardValue = 100;      // what each card added to a run adds to its worth
+    int32_t BonusScore = 40000;   // the score that earns the bonus round
+    int32_t HighRunBonus = 1000;  // each card of a new longest run
+    int32_t TowerBonus = 5000;    // each tower cleared
 };
-bool IsCustomScoring(const ScoringValues& values);
-
-// The fields of the custom scoring dialog, top to bottom.
-struct ScoringField {
-    const char* textBox;
-    const char* label;
-    const char* caption;
-    int32_t lowest, highest;
-    const char* lowMessage;
-    const char* highMessage;
-    // What the setting takes on the high path (the bonus score field sets 0).
-    int32_t valueWhenHigh;
-};
-extern const std::array<ScoringField, 5> kScoringFields;
-
-// One field checked: the setting's new value, the text the field then shows
-// (empty: left as typed), and which message (if any) the player sees.
-enum class FieldCheck { Passed, TooLow, TooHigh };
-struct FieldResult {
-    FieldCheck check = FieldCheck::Passed;
-    int32_t value = 0;
-    std::string text;
-};
-// V is the number at the start of the text (0 when there is none), rounded
-// half to even when it passes; `sixteenBit` stores it as a 16-bit setting.
-FieldResult CheckScoringField(const ScoringField& field, const std::string& text, bool sixteenBit);
+// CustomScoringInUse: a value or the time bonus differs from its default.
+bool IsCustomScoring(const ScoringValues& values, int32_t timeBonus);
 
 }  // namespace ch::spirehold

@@ -12,11 +12,11 @@ namespace ch {
 // Every value in this text has the format "###,###,###,##0".
 std::string SpireholdRules() {
     const auto* game = static_cast<const frmSpirehold*>(Runtime::current().loaded("frmSpirehold"));
-    const spirehold::ScoringValues defaults;
-    const long long bonusScore = game ? game->BonusScore : defaults.bonusScore;
-    const long long cardValue = game ? game->CardValue : defaults.cardValue;
-    const long long highRunBonus = game ? game->HighRunBonus : defaults.highRunBonus;
-    const long long towerBonus = game ? game->TowerBonus : defaults.towerBonus;
+    const spirehold::ScoringValues values = game ? game->Scoring : spirehold::ScoringValues{};
+    const long long bonusScore = values.BonusScore;
+    const long long cardValue = values.CardValue;
+    const long long highRunBonus = values.HighRunBonus;
+    const long long towerBonus = values.TowerBonus;
     return RulesText(
         33,
         {

@@ -235,9 +235,9 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
     on("mnuSave", Ev::Click, [this](EventArgs&) { this->runtime().show("frmSave", true); });
     on("mnuOpen", Ev::Click, [this](EventArgs&) { this->runtime().show("frmOpen", true); });
 
-    expose("BonusRoundScore", Expose(BonusRoundScore));
-    expose("CompletionBonus", Expose(CompletionBonus));
-    expose("CombinationBonus", Expose(CombinationBonus));
+    expose("BonusRoundScore", Expose(Scoring.BonusRoundScore));
+    expose("CompletionBonus", Expose(Scoring.CompletionBonus));
+    expose("CombinationBonus", Expose(Scoring.CombinationBonus));
     expose("Round1Deck", Expose(Round1Deck));
     expose("Round2Deck", Expose(Round2Deck));
     expose("Round3Deck", Expose(Round3Deck));
@@ -299,9 +299,7 @@ void frmSumfall::Form_Load() {
     BeginFormLoad(*this, 90, "mnu90");
     CountDownScore = true;
     CardGoal = kDefaultCardGoal;
-    BonusRoundScore = kDefaultBonusRoundScore;
-    CompletionBonus = kDefaultCompletionBonus;
-    CombinationBonus = kDefaultCombinationBonus;
+    Scoring = {};
     TimeBonus = kDefaultTimeBonus;
     CustomScoringInUse = false;
     c("mnu11").setChecked(true);

@@ -44,9 +44,7 @@ public:
     static constexpr const char* kGoalMenus[6] = {"mnu10", "mnu11", "mnu12", "mnu13", "mnu14", "mnu15"};
 
     // Scoring values; the custom scoring dialog writes them (TimeBonus is shared).
-    int32_t BonusRoundScore = sumfall::kDefaultBonusRoundScore;
-    int32_t CompletionBonus = sumfall::kDefaultCompletionBonus;
-    int32_t CombinationBonus = sumfall::kDefaultCombinationBonus;
+    sumfall::ScoringValues Scoring;
 
     // The deck of each round as dealt: what Replay and saved games use.
     // Before the first game they hold the empty codes of a full deck.

@@ -70,7 +70,7 @@ bool frmSumfall::Deal(bool newGame) {
         }
 
         Control& bar = c("StatusBar1");
-        bar.setPanel(1, "Make " + FormatScore(BonusRoundScore) + " for Bonus Round!   ");
+        bar.setPanel(1, "Make " + FormatScore(Scoring.BonusRoundScore) + " for Bonus Round!   ");
         bar.setPanel(2, "Click on exposed cards to total " + NumText(CardGoal) + "!   ");
 
         CardTotalVisible(true);

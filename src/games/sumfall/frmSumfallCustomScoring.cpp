@@ -1,17 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Sumfall's custom scoring dialog. OK stops at the first value outside 1 to
+// 5,000,000, leaves its text as typed and stores nothing; only when all four
+// pass are they stored.
 #include "games/sumfall/frmSumfallCustomScoring.h"
-
-#include <array>
 
 #include "games/sumfall/frmSumfall.h"
 #include "games/sumfall/modSumfall.h"
 #include "suite/common.h"
+#include "suite/scoringdialog.h"
 #include "suite/userdialog.h"
 #include "suite/gamewindow.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
 namespace ch {
+
+using namespace sumfall;
 
 namespace {
 using K = ControlKind;
@@ -30,7 +34,24 @@ const ControlSpec kLayout[] = {
     {K::Button, "cmdDefault", -1, 2340, 3300, 1335, 400, "&Default"},
     {K::Button, "cmdCancel", -1, 4080, 3300, 1335, 400, "&Cancel"},
 };
-const std::array<const char*, 4> kBoxes = {"txtBonus", "txtCompletion", "txtElevensBonus", "txtTimeBonus"};
+constexpr ScoringField Field(const char* box, const char* message) {
+    return {.box = box, .lowest = 1, .highest = 5000000, .lowMessage = message};
+}
+const ScoringField kFields[] = {
+    Field("txtBonus", "Sorry, the score required for a Bonus Round must fall between 1 and 5,000,000."),
+    Field("txtCompletion",
+          "Sorry, the score awarded for completing the upper playing area must fall between 1 and 5,000,000."),
+    Field("txtElevensBonus", "Sorry, the score awarded for each eleven combination must fall between 1 and 5,000,000."),
+    Field("txtTimeBonus",
+          "Sorry, the score awarded for each second remaining in the game after selecting 'Take Score' must fall "
+          "between 1 and 5,000,000."),
+};
+const ScoringPolicy kPolicy{.stopAtFirstError = true, .storeOnFailedOk = false, .correctsBox = false,
+                            .icon = MsgIcon::Exclamation, .finish = ScoringPolicy::Finish::WhenAllPass};
+
+std::vector<std::string> Texts(const ScoringValues& v, int32_t timeBonus) {
+    return {NumText(v.BonusRoundScore), NumText(v.CompletionBonus), NumText(v.CombinationBonus), NumText(timeBonus)};
+}
 }  // namespace
 
 frmSumfallCustomScoring::frmSumfallCustomScoring(Runtime& runtime) : Form(runtime, "frmSumfallCustomScoring") {
@@ -38,7 +59,7 @@ frmSumfallCustomScoring::frmSumfallCustomScoring(Runtime& runtime) : Form(runtim
     add(kLayout);
     BindScoringDialog(
         *this, [this] { Form_Load(); }, [this] { cmdOK_Click(); }, [this] { cmdDefault_Click(); }, false);
-    for (const char* box : kBoxes) SelectAllOnFocus(*this, box);
+    for (const ScoringField& f : kFields) SelectAllOnFocus(*this, f.box);
 }
 
 frmSumfall& frmSumfallCustomScoring::game() const { return runtime().form<frmSumfall>("frmSumfall"); }
@@ -50,41 +71,24 @@ void frmSumfallCustomScoring::Form_Load() {
     c("lblCustom").setCaption(
         "Note: Any high score attained using customized scoring will be denoted by an asterisk in the High Score "
         "table.");
-    frmSumfall& g = game();
-    c("lblElevenBonus").setCaption("Score awarded for " + sumfall::CardGoalName(CardGoal) + " combination:");
-    c("txtBonus").setText(NumText(g.BonusRoundScore));
-    c("txtCompletion").setText(NumText(g.CompletionBonus));
-    c("txtElevensBonus").setText(NumText(g.CombinationBonus));
-    c("txtTimeBonus").setText(NumText(TimeBonus));
+    c("lblElevenBonus").setCaption("Score awarded for " + CardGoalName(CardGoal) + " combination:");
+    ShowScoringTexts(*this, kFields, Texts(game().Scoring, TimeBonus));
 }
 
 void frmSumfallCustomScoring::cmdDefault_Click() {
-    c("txtBonus").setText(NumText(sumfall::kDefaultBonusRoundScore));
-    c("txtCompletion").setText(NumText(sumfall::kDefaultCompletionBonus));
-    c("txtElevensBonus").setText(NumText(sumfall::kDefaultCombinationBonus));
-    c("txtTimeBonus").setText(NumText(sumfall::kDefaultTimeBonus));
+    ShowScoringTexts(*this, kFields, Texts(ScoringValues{}, kDefaultTimeBonus));
 }
 
 void frmSumfallCustomScoring::cmdOK_Click() {
-    std::array<std::string, 4> texts;
-    for (size_t i = 0; i < kBoxes.size(); ++i) texts[i] = c(kBoxes[i]).text();
-    const int bad = sumfall::FirstInvalidScoringValue(texts);
-    if (bad >= 0) {
-        MsgBox(sumfall::kScoringValueMessages[static_cast<size_t>(bad)], MsgButtons::OK, MsgIcon::Exclamation, AppTitle);
-        setFocus(c(kBoxes[static_cast<size_t>(bad)]));
-        return;
-    }
     frmSumfall& g = game();
-    g.BonusRoundScore = CLng(Val(texts[0]));
-    g.CompletionBonus = CLng(Val(texts[1]));
-    g.CombinationBonus = CLng(Val(texts[2]));
-    TimeBonus = CLng(Val(texts[3]));
-    g.c("StatusBar1").setPanel(1, "Make " + FormatScore(g.BonusRoundScore) + " for Bonus Round!   ");
-    CustomScoringInUse = !(g.BonusRoundScore == sumfall::kDefaultBonusRoundScore &&
-                           g.CompletionBonus == sumfall::kDefaultCompletionBonus &&
-                           g.CombinationBonus == sumfall::kDefaultCombinationBonus &&
-                           TimeBonus == sumfall::kDefaultTimeBonus);
-    runtime().unload(*this);
+    int32_t* const values[] = {&g.Scoring.BonusRoundScore, &g.Scoring.CompletionBonus, &g.Scoring.CombinationBonus,
+                               &TimeBonus};
+    const auto store = [&values](size_t field, long long value, bool) { *values[field] = static_cast<int32_t>(value); };
+    const auto finish = [&g] {
+        g.c("StatusBar1").setPanel(1, "Make " + FormatScore(g.Scoring.BonusRoundScore) + " for Bonus Round!   ");
+        CustomScoringInUse = !(g.Scoring == ScoringValues{} && TimeBonus == kDefaultTimeBonus);
+    };
+    if (CheckScoringFields(*this, kFields, kPolicy, store, finish)) runtime().unload(*this);
 }
 
 }  // namespace ch

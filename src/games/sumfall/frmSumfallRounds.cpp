@@ -155,19 +155,19 @@ void frmSumfall::TakeScore() {
 
     if (completed) {
         Wave("\\Wingame.wav");
-        message.setCaption("Completion Bonus! " + NumText(CompletionBonus));
+        message.setCaption("Completion Bonus! " + NumText(Scoring.CompletionBonus));
         message.setVisible(true);
         runtime().refresh();
         score.setForeColor(0xFFFF00);
         Sleep(1000);
         if (CountDownScore) {
-            const int32_t step = CompletionBonus / 10;
+            const int32_t step = Scoring.CompletionBonus / 10;
             for (int i = 0; i < 10; ++i) {
                 message.setForeColor(message.foreColor() == 255 ? 0 : 255);
                 CountStep(*this, step);
             }
         } else {
-            AddToScore(CompletionBonus);
+            AddToScore(Scoring.CompletionBonus);
             ShowScore();
             runtime().refresh();
             Sleep(1000);
@@ -178,20 +178,21 @@ void frmSumfall::TakeScore() {
     if (CombinationCount != 0) {
         const std::string& word = c("lblElevens").caption();
         message.setCaption(NumText(CombinationCount) + " " + word.substr(0, word.empty() ? 0 : word.size() - 1) +
-                           "! Bonus = " + NumText(CLng(static_cast<double>(CombinationBonus) * CombinationCount)));
+                           "! Bonus = " +
+                           NumText(CLng(static_cast<double>(Scoring.CombinationBonus) * CombinationCount)));
         message.setVisible(true);
         runtime().refresh();
         score.setForeColor(0xFFFF00);
         combinations.setForeColor(0xFFFF00);
         if (CountDownScore) {
             while (CombinationCount > 0) {
-                CountStep(*this, CombinationBonus, [&] {
+                CountStep(*this, Scoring.CombinationBonus, [&] {
                     CombinationCount -= 1;
                     combinations.setCaption(NumText(CombinationCount));
                 });
             }
         } else {
-            AddToScore(static_cast<long long>(CombinationBonus) * CombinationCount);
+            AddToScore(static_cast<long long>(Scoring.CombinationBonus) * CombinationCount);
             ShowScore();
             CombinationCount = 0;
             combinations.setCaption(NumText(CombinationCount));
@@ -241,7 +242,7 @@ void frmSumfall::TakeScore() {
         message.setVisible(false);
         DisableCommandButtons(false);
         FieldCardDisplay(true);
-    } else if (CurrentRound == 2 && CurrentScore >= BonusRoundScore) {
+    } else if (CurrentRound == 2 && CurrentScore >= Scoring.BonusRoundScore) {
         Wave("\\HighScore.wav");
         message.setCaption("Bonus Round!");
         message.setVisible(true);

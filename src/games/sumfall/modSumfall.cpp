@@ -243,20 +243,4 @@ std::string SavedGameMessage(const SavedGame& game) {
                         : "Customized scoring was not in effect when this game was played. ");
 }
 
-const std::array<const char*, 4> kScoringValueMessages = {
-    "Sorry, the score required for a Bonus Round must fall between 1 and 5,000,000.",
-    "Sorry, the score awarded for completing the upper playing area must fall between 1 and 5,000,000.",
-    "Sorry, the score awarded for each eleven combination must fall between 1 and 5,000,000.",
-    "Sorry, the score awarded for each second remaining in the game after selecting 'Take Score' must fall "
-    "between 1 and 5,000,000.",
-};
-
-int FirstInvalidScoringValue(const std::array<std::string, 4>& texts) {
-    for (size_t i = 0; i < texts.size(); ++i) {
-        const double value = Val(texts[i]);
-        if (value < 1 || value > 5000000) return static_cast<int>(i);
-    }
-    return -1;
-}
-
 }  // namespace ch::sumfall

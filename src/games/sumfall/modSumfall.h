@@ -18,10 +18,15 @@ constexpr int kUpCardPoints = 100;
 constexpr int kFlipCost = 100;      // a voluntary turn of the play pile
 constexpr int kFallBackCost = 100;  // an up card passed over falls back into the field
 
-constexpr int32_t kDefaultBonusRoundScore = 80000;
-constexpr int32_t kDefaultCompletionBonus = 10000;
-constexpr int32_t kDefaultCombinationBonus = 1500;
-constexpr int32_t kDefaultTimeBonus = 100;
+// The values the custom scoring dialog edits, with their defaults. They last
+// as long as the window stays open.
+struct ScoringValues {
+    int32_t BonusRoundScore = 80000;  // the score after round 2 that earns the bonus round
+    int32_t CompletionBonus = 10000;  // clearing the upper playing area
+    int32_t CombinationBonus = 1500;  // each combination that makes the card goal
+    bool operator==(const ScoringValues&) const = default;
+};
+constexpr int32_t kDefaultTimeBonus = 100;  // the suite's TimeBonus while Sumfall is open
 
 struct FieldPlace {
     int tier;    // 1 the bottom row .. 6 the single top card
@@ -83,9 +88,5 @@ std::string SavedGameVerdict(int32_t score);
 // The message shown after opening a saved game (without the time limit question).
 std::string SavedGameMessage(const SavedGame& game);
 
-// The custom scoring dialog's check: the index (0..3) of the first value out of
-// 1..5,000,000, or -1 when all four pass.
-int FirstInvalidScoringValue(const std::array<std::string, 4>& texts);
-extern const std::array<const char*, 4> kScoringValueMessages;
 
 }  // namespace ch::sumfall

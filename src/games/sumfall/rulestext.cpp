@@ -18,9 +18,10 @@ std::string Tail(const std::string& s) { return s.empty() ? s : s.substr(1); }
 std::string SumfallRules() {
     Form* window = Runtime::current().loaded("frmSumfall");
     const frmSumfall* game = static_cast<const frmSumfall*>(window);
-    const int32_t bonusRound = game ? game->BonusRoundScore : kDefaultBonusRoundScore;
-    const int32_t combination = game ? game->CombinationBonus : kDefaultCombinationBonus;
-    const int32_t completion = game ? game->CompletionBonus : kDefaultCompletionBonus;
+    const ScoringValues values = game ? game->Scoring : ScoringValues{};
+    const int32_t bonusRound = values.BonusRoundScore;
+    const int32_t combination = values.CombinationBonus;
+    const int32_t completion = values.CompletionBonus;
     const std::string takeScore = window ? Tail(window->c("cmdTakeScore").caption()) : "Take Score";
     return RulesText(30, {
         "Requirements: To run " + AppTitle + " you need Windows 95 or above " + "and a mouse. " +

@@ -182,12 +182,12 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmTreyshiftCustom", true); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
 
-    expose("TripValue", Expose(TripValue));
-    expose("RunValue", Expose(RunValue));
-    expose("FlushValue", Expose(FlushValue));
-    expose("DeckValue", Expose(DeckValue));
-    expose("PenaltyValue", Expose(PenaltyValue));
-    expose("BonusScore", Expose(BonusScore));
+    expose("TripValue", Expose(Scoring.TripValue));
+    expose("RunValue", Expose(Scoring.RunValue));
+    expose("FlushValue", Expose(Scoring.FlushValue));
+    expose("DeckValue", Expose(Scoring.DeckValue));
+    expose("PenaltyValue", Expose(Scoring.PenaltyValue));
+    expose("BonusScore", Expose(Scoring.BonusScore));
     expose("DeckPosition", Expose(Board.deckPosition));
     expose("Selected", Expose(Board.selected));
     expose("SourceZone", Expose(Board.sourceZone));
@@ -217,14 +217,15 @@ SettingsLayout frmTreyshift::SettingsSections() {
         CountDownSection("[Count Down Score]"),
         DeckSection(*this, kDeckMenus),
         {"[Time Bonus]", [](const std::string& v) { TimeBonus = CLng(Val(v)); }, [] { return NumText(TimeBonus); }},
-        {"[Bonus Score]", [this](const std::string& v) { BonusScore = CLng(Val(v)); },
-         [this] { return NumText(BonusScore); }},
+        {"[Bonus Score]", [this](const std::string& v) { Scoring.BonusScore = CLng(Val(v)); },
+         [this] { return NumText(Scoring.BonusScore); }},
         // Written, but what is read back goes to another game's value: the
         // trip value always starts at its default.
-        {"[Trips Score]", nullptr, [this] { return NumText(TripValue); }},
-        {"[Runs Score]", [this](const std::string& v) { RunValue = CLng(Val(v)); }, [this] { return NumText(RunValue); }},
-        {"[Flush Score]", [this](const std::string& v) { FlushValue = CLng(Val(v)); },
-         [this] { return NumText(FlushValue); }},
+        {"[Trips Score]", nullptr, [this] { return NumText(Scoring.TripValue); }},
+        {"[Runs Score]", [this](const std::string& v) { Scoring.RunValue = CLng(Val(v)); },
+         [this] { return NumText(Scoring.RunValue); }},
+        {"[Flush Score]", [this](const std::string& v) { Scoring.FlushValue = CLng(Val(v)); },
+         [this] { return NumText(Scoring.FlushValue); }},
     };
     for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
     return layout;
@@ -232,13 +233,8 @@ SettingsLayout frmTreyshift::SettingsSections() {
 
 void frmTreyshift::Form_Load() {
     BeginFormLoad(*this, kDefaultTimeLimit, "mnu120");
-    TripValue = kDefaults.TripValue;
-    RunValue = kDefaults.RunValue;
-    FlushValue = kDefaults.FlushValue;
-    DeckValue = kDefaults.DeckValue;
-    PenaltyValue = kDefaults.PenaltyValue;
-    TimeBonus = kDefaults.TimeBonus;
-    BonusScore = kDefaults.BonusScore;
+    Scoring = kDefaults;
+    TimeBonus = kDefaultTimeBonus;
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
     CheckForCustom();
@@ -290,15 +286,7 @@ void frmTreyshift::mnuClear_Click() {
 }
 
 void frmTreyshift::CheckForCustom() {
-    ScoringValues values;
-    values.TripValue = TripValue;
-    values.RunValue = RunValue;
-    values.FlushValue = FlushValue;
-    values.DeckValue = DeckValue;
-    values.PenaltyValue = PenaltyValue;
-    values.TimeBonus = TimeBonus;
-    values.BonusScore = BonusScore;
-    CustomScoringInUse = IsCustomScoring(values);
+    CustomScoringInUse = IsCustomScoring(Scoring, TimeBonus);
 }
 
 // ---- Registration ----------------------------------------------------------------

@@ -29,12 +29,7 @@ public:
     explicit frmTreyshift(Runtime& runtime);
 
     // Scoring values; the custom scoring dialog writes them (TimeBonus is shared).
-    int32_t TripValue = treyshift::kDefaults.TripValue;
-    int32_t RunValue = treyshift::kDefaults.RunValue;
-    int32_t FlushValue = treyshift::kDefaults.FlushValue;
-    int32_t DeckValue = treyshift::kDefaults.DeckValue;
-    int32_t PenaltyValue = treyshift::kDefaults.PenaltyValue;
-    int32_t BonusScore = treyshift::kDefaults.BonusScore;
+    treyshift::ScoringValues Scoring;
 
     void CheckForCustom();
 

@@ -109,7 +109,7 @@ void frmTreyshift::Deal() {
     ResetDial();
     c("Timer1").setEnabled(true);
     Control& bar = c("StatusBar1");
-    bar.setPanel(1, "Make " + FormatScore(BonusScore) + " for Bonus Round!   ");
+    bar.setPanel(1, "Make " + FormatScore(Scoring.BonusScore) + " for Bonus Round!   ");
     bar.setPanel(2, "Create runs and triples by moving available cards!   ");
 }
 
@@ -160,15 +160,15 @@ void frmTreyshift::CheckColumn(int column) {
     const auto card = [this](int i) { return Board.field[static_cast<size_t>(i)].card; };
     const std::string top = card(column), middle = card(column + 4), bottom = card(column + 8);
     const ColumnKind kind = ScoreColumn(top, middle, bottom);
-    const char* sound = AwardFor(kind, ScoringValues{}).sound;
+    const ColumnAward award = AwardFor(kind, Scoring);
     if (kind == ColumnKind::None) return;
     if (kind == ColumnKind::Trip) {
         ClearColumn(column);
         TripCount += 1;
         c("lblScoreTrips").setCaption(NumText(TripCount));
-        AddToScore(TripValue);
+        AddToScore(award.points);
         ShowScore();
-        Wave(sound);
+        Wave(award.sound);
         return;
     }
     bool isFlush = false;
@@ -176,16 +176,16 @@ void frmTreyshift::CheckColumn(int column) {
     ClearColumn(column);
     if (isFlush) {
         ShowFlushMessage(column);
-        Wave(sound);
-        AddToScore(FlushValue);
+        Wave(award.sound);
+        AddToScore(award.flushPoints);
         ShowScore();
         c("lblFlush").setVisible(false);
     } else {
-        Wave(sound);
+        Wave(award.sound);
     }
     RunCount += 1;
     c("lblScoreRuns").setCaption(NumText(RunCount));
-    AddToScore(RunValue);
+    AddToScore(award.points);
     ShowScore();
 }
 

@@ -46,7 +46,7 @@ void frmTreyshift::Play() {
     Control& bar = c("StatusBar1");
     // Deal writes both panels again at once.
     bar.setPanel(2, "Click on cards to straights or runs!   ");
-    bar.setPanel(1, "Make " + FormatScore(BonusScore) + " for bonus round.  ");
+    bar.setPanel(1, "Make " + FormatScore(Scoring.BonusScore) + " for bonus round.  ");
     c("mnuTime").setEnabled(false);
     c("mnuCustom").setEnabled(false);
     SetPlayCaptions(*this, true);
@@ -180,8 +180,8 @@ void frmTreyshift::EndRound() {
         for (int i = 0; i < kUpSlots; ++i) c("UpCard", i).setVisible(false);
         c("CardStackPicture").setVisible(false);
         scoring.setCaption("Deck Completion Bonus!");
-        message.setCaption(FormatScore(DeckValue) + "!");
-        AddToScore(DeckValue);
+        message.setCaption(FormatScore(Scoring.DeckValue) + "!");
+        AddToScore(Scoring.DeckValue);
         ShowScore();
         Wave("\\Applause.wav");
         CentreAcross(scoring);
@@ -209,7 +209,7 @@ void frmTreyshift::EndRound() {
     }
     message.setVisible(false);
 
-    if (GameEndsAfter(CurrentRound, CurrentScore, BonusScore)) {
+    if (GameEndsAfter(CurrentRound, CurrentScore, Scoring.BonusScore)) {
         GameOver();
         return;
     }
@@ -276,7 +276,7 @@ void frmTreyshift::RemoveLeftOverCards() {
     Control& scoring = c("lblScoring");
     Control& message = c("lblMessage");
     scoring.setCaption("Removing left over cards");
-    message.setCaption(PenaltyText(PenaltyValue));
+    message.setCaption(PenaltyText(Scoring.PenaltyValue));
     CentreAcross(scoring);
     CentreAcross(message);
     scoring.setVisible(true);
@@ -285,7 +285,7 @@ void frmTreyshift::RemoveLeftOverCards() {
     Sleep(1000);
 
     Control& flush = c("lblFlush");
-    flush.setCaption(PenaltyText(PenaltyValue));
+    flush.setCaption(PenaltyText(Scoring.PenaltyValue));
     flush.setBackStyle(0);
     flush.setFontSize(10);
     FitLabelToText(flush);
@@ -294,7 +294,7 @@ void frmTreyshift::RemoveLeftOverCards() {
         Control& card = c(cardName, i);
         slot.outlined = true;
         ShowPlaces();
-        AddToScore(-static_cast<long long>(PenaltyValue));
+        AddToScore(-static_cast<long long>(Scoring.PenaltyValue));
         ShowScore();
         flush.setLeft(card.left() + card.width() / 2 - flush.width() / 2);
         flush.setVisible(true);
@@ -354,8 +354,8 @@ void frmTreyshift::InitRound() {
     ShowScore();
     CentreIn("lblScoreRuns", "RunRectangle");
     CentreIn("lblScoreTrips", "TripsRectangle");
-    c("lblTrips").setCaption("Trips (" + NumText(TripValue) + "):");
-    c("lblRuns").setCaption("Runs (" + NumText(RunValue) + "):");
+    c("lblTrips").setCaption("Trips (" + NumText(Scoring.TripValue) + "):");
+    c("lblRuns").setCaption("Runs (" + NumText(Scoring.RunValue) + "):");
 }
 
 // ---- Placing and showing ------------------------------------------------------------------

@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Treyshift's rules as plain functions: column scoring, the deck stack, the
-// end of a round and the checks of the custom scoring dialog.
+// end of a round and whether the scoring is custom.
 #include "games/treyshift/modTreyshift.h"
-
-#include <cmath>
 
 #include "window/basic.h"
 
 namespace ch::treyshift {
 
-bool IsCustomScoring(const ScoringValues& v) {
-    return !(v.DeckValue == kDefaults.DeckValue && v.TimeBonus == kDefaults.TimeBonus &&
+bool IsCustomScoring(const ScoringValues& v, int32_t timeBonus) {
+    return !(v.DeckValue == kDefaults.DeckValue && timeBonus == kDefaultTimeBonus &&
              v.TripValue == kDefaults.TripValue && v.RunValue == kDefaults.RunValue &&
              v.FlushValue == kDefaults.FlushValue && v.BonusScore == kDefaults.BonusScore &&
              v.PenaltyValue == kDefaults.PenaltyValue);
@@ -45,13 +43,12 @@ ColumnKind ScoreColumn(const std::string& top, const std::string& middle, const 
 
 ColumnAward AwardFor(ColumnKind kind, const ScoringValues& values) {
     switch (kind) {
-        case ColumnKind::Trip: return {values.TripValue, "\\TwentyOne.wav"};
-        case ColumnKind::Run: return {values.RunValue, "\\TwentyOne.wav"};
-        case ColumnKind::FlushRun:
-            return {static_cast<long long>(values.FlushValue) + values.RunValue, "\\HighScore.wav"};
+        case ColumnKind::Trip: return {values.TripValue, 0, "\\TwentyOne.wav"};
+        case ColumnKind::Run: return {values.RunValue, 0, "\\TwentyOne.wav"};
+        case ColumnKind::FlushRun: return {values.RunValue, values.FlushValue, "\\HighScore.wav"};
         case ColumnKind::None: break;
     }
-    return {0, ""};
+    return {0, 0, ""};
 }
 
 const char* StackKey(int deckPosition) {
@@ -75,36 +72,6 @@ bool GameEndsAfter(int round, long long score, long long bonusScore) {
 
 std::string PrepareText(int nextRound) {
     return nextRound == 3 ? "Prepare For Bonus Round" : "Prepare For Round " + NumText(nextRound);
-}
-
-const std::array<ScoringFieldSpec, 7> kScoringFields = {{
-    {ScoringField::Trip, "txtTripValue", "lblTripValue", "Three of a kind bonus:", 0, 20000,
-     "Sorry, the minimum value for a Triple is 0.", "Sorry, the maximum value for a Triple is 20000"},
-    {ScoringField::Run, "txtRunValue", "lblRunValue", "Run Bonus:", 0, 20000,
-     "Sorry, the minimum value for a Run is 0.", "Sorry, the maximum value for a Run is 20000"},
-    {ScoringField::Deck, "txtDeckValue", "lblDeckValue", "Deck Completion Bonus:", 0, 100000,
-     "Sorry, the minimum value for for completing the Deck is 0.",
-     "Sorry, the maximum value for completing the Deck is 100000"},
-    {ScoringField::Flush, "txtFlushValue", "lblFlushValue", "Flush Bonus:", 0, 20000,
-     "Sorry, the minimum value for the Flush Bonus is 0.", "Sorry, the maximum value for the Flush Bonus is 20000"},
-    {ScoringField::BonusRound, "txtBonusRound", "lblBonusRound", "Score Required for Bonus Round:", 0, 1000000,
-     "Sorry, the minimum value for obtaining the Bonus Round is 0.",
-     "Sorry, the maximum value for obtaining the Bonus Round is 1000000"},
-    {ScoringField::Penalty, "txtPenaltyValue", "lblPenaltyValue", "Penalty for left-over cards:", -20000, 0,
-     "Sorry, the minimum penalty for left over cards is -20000", "Sorry, the maximum penalty for left over cards is 0."},
-    {ScoringField::TimeBonus, "txtTimeBonus", "lblTimeBonus", "Time Bonus (points per second)", 0, 5000,
-     "Sorry, you cannot set the Time Bonus value to less than 0 points.",
-     "Sorry, you cannot set the Time Bonus value to greater than 5000 points"},
-}};
-
-FieldCheck CheckScoringField(const ScoringFieldSpec& spec, const std::string& text) {
-    const double value = Val(text);
-    if (value < static_cast<double>(spec.low))
-        return {false, static_cast<int32_t>(spec.low), spec.belowMessage, NumText(spec.low)};
-    if (value > static_cast<double>(spec.high))
-        return {false, static_cast<int32_t>(spec.high), spec.aboveMessage, NumText(spec.high)};
-    const double kept = spec.field == ScoringField::Penalty ? std::fabs(value) : value;
-    return {true, CLng(kept), nullptr, text};
 }
 
 }  // namespace ch::treyshift

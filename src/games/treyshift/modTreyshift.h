@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of Treyshift as plain data and functions: how a column of three
 // cards scores (Trip, Run, flush Run) and what each pays with which sound,
-// the deck stack and card count, the end of a round, the default scoring
-// values, and the fields of the custom scoring dialog. The board and its
-// moves are in modTreyshiftBoard.h.
+// the deck stack and card count, the end of a round, and the scoring values
+// with their defaults. The board and its moves are in modTreyshiftBoard.h.
 #pragma once
 
 #include <array>
@@ -27,18 +26,18 @@ constexpr int kFirstDeckPosition = 3;
 // From here on a move does nothing: the empty card past the deck was taken.
 constexpr int kDeckPositionSpent = 56;
 
-// Default scoring values; the custom scoring dialog and CheckForCustom
-// compare against these.
+// The values the custom scoring dialog edits, with their defaults; the
+// window, its rules text and the dialog read them from here.
 struct ScoringValues {
     int32_t TripValue = 6000;     // three of a rank
     int32_t RunValue = 300;       // three in sequence
     int32_t FlushValue = 5000;    // extra for a Run of one suit
     int32_t DeckValue = 15000;    // using up the deck
     int32_t PenaltyValue = 250;   // each left over card after the deck is used up, held positive
-    int32_t TimeBonus = 200;      // each second left
     int32_t BonusScore = 100000;  // score after round 2 that earns the bonus round
 };
 inline constexpr ScoringValues kDefaults{};
+constexpr int32_t kDefaultTimeBonus = 200;  // the suite's TimeBonus while Treyshift is open: each second left
 constexpr int16_t kDefaultTimeLimit = 120;
 
 // The high score table. A missing table is made with the default score the
@@ -48,8 +47,8 @@ inline constexpr const char* kTable = "TreyshiftHiScores";
 inline constexpr const char* kTableDefault = "50000";
 inline constexpr const char* kRoundsDefault = "30000";
 
-// True unless every value equals its default.
-bool IsCustomScoring(const ScoringValues& values);
+// True unless every value and the time bonus equal their defaults.
+bool IsCustomScoring(const ScoringValues& values, int32_t timeBonus);
 
 // ---- Columns -----------------------------------------------------------------
 enum class ColumnKind { None, Trip, Run, FlushRun };
@@ -64,10 +63,12 @@ bool IsFlush(const std::string& top, const std::string& middle, const std::strin
 // What a full column makes; a Trip is never tested for a flush.
 ColumnKind ScoreColumn(const std::string& top, const std::string& middle, const std::string& bottom);
 
-// What a column pays during play and the sound it makes.
+// What a column pays during play and the sound it makes. A flush Run pays
+// its flush first, with the flush message, then the Run.
 struct ColumnAward {
-    long long points;   // a flush Run pays FlushValue and RunValue
-    const char* sound;  // "" for a column that stays
+    long long points;       // TripValue or RunValue; 0 for a column that stays
+    long long flushPoints;  // FlushValue for a flush Run, else 0
+    const char* sound;      // "" for a column that stays
 };
 ColumnAward AwardFor(ColumnKind kind, const ScoringValues& values);
 
@@ -87,30 +88,5 @@ std::string PenaltyText(int32_t penalty);
 bool GameEndsAfter(int round, long long score, long long bonusScore);
 // "Prepare For Round 2", "Prepare For Bonus Round".
 std::string PrepareText(int nextRound);
-
-// ---- Custom scoring dialog -------------------------------------------------------
-enum class ScoringField { Trip, Run, Deck, Flush, BonusRound, Penalty, TimeBonus };
-struct ScoringFieldSpec {
-    ScoringField field;
-    const char* textBox;
-    const char* label;
-    const char* caption;
-    long long low, high;
-    const char* belowMessage;  // the value put back is `low`
-    const char* aboveMessage;  // the value put back is `high`
-};
-// In the order the OK button checks them; the time bonus is last.
-extern const std::array<ScoringFieldSpec, 7> kScoringFields;
-
-// One field's check. `stored` is what goes to the value: the rounded number
-// inside the range (for the penalty its absolute value), otherwise the limit
-// passed, as it stands. `shown` is the text the box then holds.
-struct FieldCheck {
-    bool valid;
-    int32_t stored;
-    const char* message;  // null when valid
-    std::string shown;
-};
-FieldCheck CheckScoringField(const ScoringFieldSpec& spec, const std::string& text);
 
 }  // namespace ch::treyshift

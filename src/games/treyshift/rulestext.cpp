@@ -12,13 +12,13 @@ namespace ch {
 
 std::string TreyshiftRules() {
     const auto* game = static_cast<const frmTreyshift*>(Runtime::current().loaded("frmTreyshift"));
-    const treyshift::ScoringValues d = treyshift::kDefaults;
-    const std::string trips = NumText(game ? game->TripValue : d.TripValue);
-    const std::string runs = NumText(game ? game->RunValue : d.RunValue);
-    const std::string flush = NumText(game ? game->FlushValue : d.FlushValue);
-    const std::string deck = NumText(game ? game->DeckValue : d.DeckValue);
-    const std::string penalty = NumText(game ? game->PenaltyValue : d.PenaltyValue);
-    const std::string bonus = FormatScore(game ? game->BonusScore : d.BonusScore);
+    const treyshift::ScoringValues v = game ? game->Scoring : treyshift::kDefaults;
+    const std::string trips = NumText(v.TripValue);
+    const std::string runs = NumText(v.RunValue);
+    const std::string flush = NumText(v.FlushValue);
+    const std::string deck = NumText(v.DeckValue);
+    const std::string penalty = NumText(v.PenaltyValue);
+    const std::string bonus = FormatScore(v.BonusScore);
     return RulesText(31, {
         "Requirements: To run " + AppTitle + " you need Windows 95 or above " + "and a mouse. " +
             "Recommended: Soundcard.",
