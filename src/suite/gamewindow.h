@@ -30,6 +30,7 @@
 #include <string>
 #include <vector>
 
+#include "suite/gameinfo.h"
 #include "suite/labels.h"
 #include "suite/settings.h"
 #include "window/control.h"
@@ -213,11 +214,7 @@ bool GameRunningUnpaused(const Form& window);
 void RunPausedIfRunning(Form& window, const std::function<void()>& step);
 
 // ---- Menus --------------------------------------------------------------------
-struct TimeEntry {
-    const char* menu;     // "mnu45"
-    int seconds;          // 45
-    const char* caption;  // "&45 seconds (default)"
-};
+// (TimeEntry, one entry of the Time menu, is in gameinfo.h.)
 // The menu entries of the time limits, under mnuTime.
 std::vector<ControlSpec> TimeMenuEntries(std::span<const TimeEntry> entries);
 // Unticks every entry.

@@ -8,6 +8,7 @@
 #include "suite/common.h"
 #include "suite/dial.h"
 #include "suite/frmRules.h"
+#include "suite/gameinfo.h"
 #include "suite/highscores.h"
 #include "suite/sound.h"
 #include "window/basic.h"
@@ -50,14 +51,32 @@ std::vector<ControlSpec> Layout() {
 }
 }  // namespace
 
-void RegisterTestGame(Runtime& runtime) {
+namespace {
+void RegisterTestGameForms(Runtime& runtime) {
     runtime.registerForm("frmTestGame", [](Runtime& rt) { return std::make_unique<frmTestGame>(rt); });
-    RegisterHighScoreTable({kTestGameTitle, "frmTestGame", kTable, kDefaultScore});
     RegisterRules(kTestGameTitle, [] {
         return RulesText(30, {"Each round lasts " + NumText(TimeLimit) + " seconds.",
                               "Good luck and have fun!"});
     });
 }
+
+// Opened by the launcher, not offered by the selector.
+const GameInfo kTestGame = {
+    .name = "testgame",
+    .title = kTestGameTitle,
+    .form = "frmTestGame",
+    .button = nullptr,
+    .buttonCaption = "",
+    .buttonSlot = 0,
+    .tableName = kTable,
+    .defaultScore = kDefaultScore,
+    .settingsFile = kSettingsFile,
+    .timeEntries = kTimeEntries,
+    .registerForms = RegisterTestGameForms,
+};
+}  // namespace
+
+void RegisterTestGame(Runtime& runtime) { RegisterGame(runtime, kTestGame); }
 
 frmTestGame::frmTestGame(Runtime& runtime) : Form(runtime, "frmTestGame") {
     setSize(9540, 7200);

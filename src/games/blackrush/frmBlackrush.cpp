@@ -36,10 +36,6 @@ constexpr int kSlotTops[kSlots] = {2355, 2730, 3150, 3555, 3945};
 constexpr int kHitLefts[kColumns] = {300, 1728, 3156, 4584};
 const char* const kPauseCaptionHere = "P&ause";
 
-const TimeEntry kTimeEntries[] = {
-    {"mnu15", 15, "&15 Seconds (for the daring)"}, {"mnu30", 30, "&30 Seconds"}, {"mnu60", 60, "&60 Seconds"},
-    {"mnu90", 90, "&90 Seconds (default)"},        {"mnu120", 120, "1&20 Seconds"},
-};
 
 // The standing controls this window doesn't have: its score is lblTotalScore,
 // its messages stand in ScoringLabelInfo, its round in lblRound alone.

@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+#include "games/blackrush/info.h"
 #include "games/blackrush/modBlackrush.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
@@ -108,7 +109,6 @@ private:
     std::vector<DesignPlace> BoardPlaces;
 };
 
-void RegisterBlackrush(Runtime& runtime);
 // The rules text of Blackrush, from the live values of its window (rulestext.cpp).
 void RegisterBlackrushRules();
 

@@ -22,12 +22,10 @@ using namespace duopick;
 namespace {
 using K = ControlKind;
 
-const char* const kTable = "DuopickHighScores";
 // Clear High Scores writes and shows a table of its own name, which the game
 // never plays into: the played table survives the command.
 const char* const kClearedTable = "DuopickHiScores";
 const char* const kMenuScore = "30000";
-const char* const kSettingsFile = "\\Duopick.Ini";
 constexpr int kDesignWidth = 9570;
 constexpr int kDesignHeight = 7200;
 // Where the standing controls were laid out: the right column keeps its
@@ -35,11 +33,6 @@ constexpr int kDesignHeight = 7200;
 constexpr int kStandingWidth = 9540;
 constexpr int kRightColumn = 8220;
 
-const TimeEntry kTimeEntries[] = {
-    {"mnu30", 30, "&30 seconds"},  {"mnu45", 45, "&45 seconds (default)"}, {"mnu60", 60, "&60 seconds"},
-    {"mnu75", 75, "&75 seconds"},  {"mnu90", 90, "&90 seconds"},           {"mnu105", 105, "&105 seconds"},
-    {"mnu120", 120, "1&20 seconds"},
-};
 
 // The board below the field: the stack, the count of its cards, and the
 // pairs and runs made with what each pays.

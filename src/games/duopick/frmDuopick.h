@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+#include "games/duopick/info.h"
 #include "games/duopick/modDuopick.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
@@ -94,7 +95,6 @@ private:
     SplashAnimation Splash;
 };
 
-void RegisterDuopick(Runtime& runtime);
 // The rules window's text from the live settings (rulestext.cpp).
 std::string DuopickRulesText();
 

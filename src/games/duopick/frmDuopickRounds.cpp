@@ -16,7 +16,6 @@ namespace ch {
 using namespace duopick;
 
 namespace {
-const char* const kTable = "DuopickHighScores";
 const char* const kGameOverScore = "50000";
 const char* const kRoundTip = "Ends the current game";
 }  // namespace

@@ -26,13 +26,6 @@ namespace {
 using K = ControlKind;
 
 
-const TimeEntry kTimeEntries[] = {
-    {"mnu15", 15, "&15 seconds"},
-    {"mnu30", 30, "&30 seconds"},
-    {"mnu45", 45, "&45 seconds"},
-    {"mnu60", 60, "&60 seconds (default)"},
-    {"mnu75", 75, "&75 seconds"},
-};
 
 // Fivestack's own places for the standing controls: the Time Bonus box with
 // the dial under it, the score and round stand in the top band beside the

@@ -16,6 +16,7 @@
 #include <cstdint>
 #include <string>
 
+#include "games/fivestack/info.h"
 #include "games/fivestack/modFivestack.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
@@ -112,7 +113,6 @@ private:
     SplashAnimation Splash;
 };
 
-void RegisterFivestack(Runtime& runtime);
 // The rules window's text of Fivestack, from the window's live settings.
 void RegisterFivestackRules();
 

@@ -23,9 +23,6 @@ using namespace handgrid;
 namespace {
 using K = ControlKind;
 
-const char* const kTable = "HandgridHighScores";
-const char* const kDefaultScore = "30000";
-const char* const kSettingsFile = "\\Handgrid.Ini";
 constexpr int kDesignWidth = 9570;
 constexpr int kDesignHeight = 7200;
 constexpr int kCardWidth = 1035;
@@ -34,11 +31,6 @@ const int kColumnLefts[5] = {210, 1320, 2415, 3525, 4635};
 const int kRowTops[5] = {204, 1260, 2310, 3345, 4410};
 const int kRowLabelTops[5] = {645, 1770, 2850, 3990, 4965};
 
-const TimeEntry kTimeEntries[] = {
-    {"mnu30", 30, "&30 seconds"},   {"mnu45", 45, "&45 seconds"},   {"mnu60", 60, "&60 seconds  "},
-    {"mnu75", 75, "&75 seconds (default)"}, {"mnu90", 90, "&90 seconds"}, {"mnu105", 105, "&105 seconds"},
-    {"mnu120", 120, "&120 seconds"},
-};
 // A saved limit of 120 is written but not taken back at the next start.
 const std::span<const TimeEntry> kReadableTimes = std::span<const TimeEntry>(kTimeEntries).first(6);
 

@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "games/handgrid/info.h"
 #include "games/handgrid/modHandgrid.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
@@ -94,7 +95,6 @@ private:
     SplashAnimation Splash;
 };
 
-void RegisterHandgrid(Runtime& runtime);
 // The rules window's text for Handgrid (rulestext.cpp).
 std::string HandgridRules();
 

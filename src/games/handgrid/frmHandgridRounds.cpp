@@ -17,8 +17,6 @@ namespace ch {
 using namespace handgrid;
 
 namespace {
-const char* const kTable = "HandgridHighScores";
-const char* const kDefaultScore = "30000";
 }  // namespace
 
 // ---- Play and End Game ------------------------------------------------------------------

@@ -26,16 +26,7 @@ std::string SpireholdRules();  // rulestext.cpp
 namespace {
 using K = ControlKind;
 
-const char* const kTable = "SpireholdHiScores";
-const char* const kDefaultScore = "30000";
-const char* const kSettingsFile = "\\Spirehold.Ini";
 
-const TimeEntry kTimeEntries[] = {
-    {"mnu30", 30, "&30 seconds"},
-    {"mnu45", 45, "&45 seconds (default)"},
-    {"mnu60", 60, "&60 seconds"},
-    {"mnu90", 90, "&90 seconds "},
-};
 
 // The towers fill the top of the window; below them, from left to right, the
 // score and round boxes, the stack and the up card, the run labels, the time

@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "games/spirehold/info.h"
 #include "games/spirehold/modSpirehold.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
@@ -96,6 +97,5 @@ private:
     SplashAnimation Splash;
 };
 
-void RegisterSpirehold(Runtime& runtime);
 
 }  // namespace ch

@@ -15,8 +15,6 @@ namespace ch {
 using namespace spirehold;
 
 namespace {
-const char* const kTable = "SpireholdHiScores";
-const char* const kDefaultScore = "30000";
 const char* const kEndsCurrentTip = "Ends the current game";
 constexpr int kRed = 255;
 }  // namespace

@@ -30,7 +30,6 @@ namespace {
 using K = ControlKind;
 constexpr int kCardWidth = frmSumfall::kCardWidth;
 constexpr int kCardHeight = frmSumfall::kCardHeight;
-constexpr auto& kTimeEntries = frmSumfall::kTimeEntries;
 constexpr auto& kGoalMenus = frmSumfall::kGoalMenus;
 
 const char* const kGoalCaptions[6] = {"1&0", "1&1 (Default)", "1&2", "1&3", "1&4", "1&5"};

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "games/sumfall/info.h"
 #include "games/sumfall/modSumfall.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
@@ -26,9 +27,6 @@ public:
     explicit frmSumfall(Runtime& runtime);
 
     // The window's fixed names, sizes and entries.
-    static constexpr const char* kTable = "HiScores";
-    static constexpr const char* kDefaultScore = "50000";
-    static constexpr const char* kSettingsFile = "\\Sumfall.Ini";
     static constexpr int kDesignWidth = 9540;
     static constexpr int kDesignHeight = 7200;
     static constexpr int kCardWidth = 1065;
@@ -36,10 +34,6 @@ public:
     static constexpr const char* kTakeScoreCaption = "&Take Score";
     static constexpr const char* kReplayCaption = "&Replay";
     static constexpr const char* kReplayTip = "Replays the last game";
-    static constexpr TimeEntry kTimeEntries[] = {
-        {"mnu30", 30, "&30 seconds"},    {"mnu60", 60, "&60 seconds"},    {"mnu90", 90, "&90 seconds (default)"},
-        {"mnu120", 120, "1&20 seconds"}, {"mnu150", 150, "1&50 seconds"}, {"mnu180", 180, "1&80 seconds"},
-    };
     static constexpr const char* kGoalMenus[6] = {"mnu10", "mnu11", "mnu12", "mnu13", "mnu14", "mnu15"};
 
     // Scoring values; the custom scoring dialog writes them (TimeBonus is shared).
@@ -144,7 +138,6 @@ private:
     SplashAnimation Splash;
 };
 
-void RegisterSumfall(Runtime& runtime);
 // The rules window's text, from the open window's live values.
 std::string SumfallRules();
 

@@ -26,12 +26,6 @@ using namespace treyshift;
 namespace {
 using K = ControlKind;
 
-const char* const kSettingsFile = "\\Treyshift.Ini";
-const TimeEntry kTimeEntries[] = {
-    {"mnu60", 60, "&60 seconds"},   {"mnu75", 75, "&75 seconds"},   {"mnu90", 90, "&90 seconds"},
-    {"mnu105", 105, "&105 seconds"}, {"mnu120", 120, "1&20 seconds (default)"}, {"mnu135", 135, "1&35 seconds"},
-    {"mnu150", 150, "1&50 seconds"}, {"mnu180", 180, "1&80 seconds"},
-};
 
 // The window's design size; every card keeps its size at any window size.
 constexpr int kDesignWidth = 9540;

@@ -15,6 +15,7 @@
 #include <cstdint>
 #include <string>
 
+#include "games/treyshift/info.h"
 #include "games/treyshift/modTreyshift.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
@@ -110,7 +111,6 @@ private:
     SplashAnimation Splash;
 };
 
-void RegisterTreyshift(Runtime& runtime);
 // The rules window's text from the live settings (rulestext.cpp).
 std::string TreyshiftRules();
 
