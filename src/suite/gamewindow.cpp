@@ -212,12 +212,12 @@ void SplashAnimation::step(Form& window, SplashFace face) {
     Control& image = window.c("imgSplashImage", SplashPosition);
     image.zOrderBack();
     if (SplashForward) {
-        const bool sumfall = face == SplashFace::Sumfall;
+        const bool fixed = face.fixedPicture >= 0;
         if (SplashShowBack) {
             image.setPicture(ImageList2().indexOf("BACK"));
-            if (!sumfall) image.setBorderStyle(0);
-        } else if (sumfall) {
-            image.setPicture(ImageCatalogue::kSumfallSplash);
+            if (!fixed) image.setBorderStyle(0);
+        } else if (fixed) {
+            image.setPicture(face.fixedPicture);
         } else {
             image.setPicture(RandomInteger(ImageCatalogue::kFirstFace, ImageCatalogue::kLastFace));
             image.setBorderStyle(1);
@@ -237,10 +237,10 @@ void SplashAnimation::step(Form& window, SplashFace face) {
     }
 }
 
-void BindStandingTimers(Form& window, SplashAnimation& splash, SplashFace face) {
+void BindStandingTimers(Form& window, SplashAnimation& splash, SplashFace face, const char* timeOfDayTimer) {
     Form* w = &window;
     window.on("Timer2", Ev::Timer, [w](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *w); });
-    window.on("Timer3", Ev::Timer, [w](EventArgs&) { ShowTimeOfDay(*w); });
+    window.on(timeOfDayTimer, Ev::Timer, [w](EventArgs&) { ShowTimeOfDay(*w); });
     window.on("Timer4", Ev::Timer, [w, &splash, face](EventArgs&) { splash.step(*w, face); });
 }
 
@@ -450,11 +450,18 @@ void CompleteFormLoad(Form& window, const std::string& tableName, const std::str
     window.setMousePointer(0);
 }
 
-void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face, const char* messageLabel) {
-    BindStandingTimers(window, splash, face);
+void BindSharedHandlers(Form& window, SplashAnimation& splash, const SharedHandlerPoints& points) {
+    BindStandingTimers(window, splash, points.face, points.timeOfDayTimer);
     Form* w = &window;
-    for (const char* exit : {"cmdExit", "cmdQuit", "mnuExit"})
+    const char* messageLabel = points.messageLabel;
+    for (const char* exit : {"cmdExit", "mnuExit"})
         if (window.has(exit)) window.on(exit, Ev::Click, [w](EventArgs&) { w->runtime().unload(*w); });
+    // A window whose Take Score holds the thread through sleeps lets its Quit
+    // button wait until the score is taken.
+    if (window.has("cmdQuit"))
+        window.on("cmdQuit", Ev::Click, [w, wait = points.quitWaitsForScore](EventArgs&) {
+            if (!wait || !TakingScore) w->runtime().unload(*w);
+        });
     window.on("mnuSounds", Ev::Click, [w](EventArgs&) { SetPlaySounds(*w, !PlaySounds); });
     // A paused game is a running one: the music follows the switch at once.
     window.on("mnuMusic", Ev::Click, [w](EventArgs&) { SetPlayMusic(*w, !PlayMusic, GameInProgress); });

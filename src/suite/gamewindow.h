@@ -123,15 +123,17 @@ void ShowWelcome(Form& window);
 void ShowSplashCaptions(Form& window);
 // The wall clock as "h:mm AMPM" ("3:07 PM").
 std::string TimeOfDayText(int64_t wallClockMs);
-// Panel 3 of StatusBar1 = the time of day (Timer3, or Timer6 in Blackrush).
+// Panel 3 of StatusBar1 = the time of day (Timer3 unless the window names another).
 void ShowTimeOfDay(Form& window);
 // Whole minutes from a wall clock reading to now.
 int MinutesSince(int64_t wallClockMs);
 
 // ---- Splash panel ----------------------------------------------------------
-enum class SplashFace {
-    RandomFace,  // a random card face with BorderStyle 1, the back with BorderStyle 0
-    Sumfall,     // the picture "SFUP" for the face, BorderStyle untouched
+// The face the ring turns up: a random card face with BorderStyle 1 (the back
+// with BorderStyle 0), or, for a window that names one, that picture every
+// time with the borders left as they are.
+struct SplashFace {
+    int fixedPicture = -1;
 };
 // The ring of four cards on the splash panel, one step per Timer4 tick:
 // forward passes turn the cards to backs or faces in turn, backward passes
@@ -142,9 +144,10 @@ struct SplashAnimation {
     bool SplashShowBack = false;
     void step(Form& window, SplashFace face);
 };
-// Binds the handlers of Timer2 (the dial's blink at DialSeconds), Timer3 (the
-// time of day) and Timer4 (a step of `splash`, which the window owns).
-void BindStandingTimers(Form& window, SplashAnimation& splash, SplashFace face);
+// Binds the handlers of Timer2 (the dial's blink at DialSeconds), the time of
+// day's timer and Timer4 (a step of `splash`, which the window owns).
+void BindStandingTimers(Form& window, SplashAnimation& splash, SplashFace face,
+                        const char* timeOfDayTimer = "Timer3");
 // frmSplash and Timer4 on or off together.
 void ShowSplash(Form& window, bool visible);
 
@@ -252,14 +255,21 @@ void BeginFormLoad(Form& window, int timeLimit, const char* timeMenu);
 // Form_Load's close: GameStartTime, the splash captions, the window centred,
 // the dial prepared, the table's top score shown, the normal pointer.
 void CompleteFormLoad(Form& window, const std::string& tableName, const std::string& defaultScore);
-// The handlers every game window binds alike: Timer2 the dial's blink,
-// Timer3 the time of day, Timer4 the splash ring; cmdExit (or cmdQuit) and
-// mnuExit close the window; mnuSounds and mnuMusic switch; mnuView (where the window has
+// Where a window's shared handlers differ from one game to another.
+struct SharedHandlerPoints {
+    SplashFace face = {};                     // what the splash ring turns up
+    const char* messageLabel = "lblMessage";  // the label that tells a paused or finished game
+    const char* timeOfDayTimer = "Timer3";    // the timer that shows the time of day
+    bool quitWaitsForScore = false;           // cmdQuit does nothing while TakingScore
+};
+// The handlers every game window binds alike: Timer2 the dial's blink, the
+// time of day, Timer4 the splash ring; cmdExit (or cmdQuit) and mnuExit close
+// the window; mnuSounds and mnuMusic switch; mnuView (where the window has
 // it) opens the Hall of Fame around a pause of a running game
 // (RunPausedIfRunning); mnuRules and mnuAbout open their windows around a
-// pause that reads `messageLabel` to tell a paused or finished game.
-void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face,
-                        const char* messageLabel = "lblMessage");
+// pause that reads the message label to tell a paused or finished game. The
+// window binds none of these itself.
+void BindSharedHandlers(Form& window, SplashAnimation& splash, const SharedHandlerPoints& points = {});
 // The window's own events: Load, Resize and QueryUnload.
 void BindWindowEvents(Form& window, std::function<void()> load, std::function<void()> resize,
                       std::function<void(EventArgs&)> queryUnload);

@@ -103,7 +103,7 @@ frmTestGame::frmTestGame(Runtime& runtime) : Form(runtime, "frmTestGame") {
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
     on("Timer2", Ev::Timer, [this](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *this); });
     on("Timer3", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
-    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
+    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace{}); });
     for (const TimeEntry& entry : kTimeEntries)
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int design = 1; design <= 4; ++design)

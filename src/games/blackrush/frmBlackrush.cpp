@@ -229,11 +229,10 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
     on("cmdHit", Ev::Click, [this](EventArgs& e) { cmdHit_Click(e.index); });
     on("cmdPass", Ev::Click, [this](EventArgs&) { cmdPass_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash, SplashFace::RandomFace, "ScoringLabelInfo");
     // Timer3 is the 21 Counter here; the time of day is Timer6's.
+    BindSharedHandlers(*this, Splash, {.messageLabel = "ScoringLabelInfo", .timeOfDayTimer = "Timer6"});
     on("Timer3", Ev::Timer, [this](EventArgs&) { Timer3_Timer(); });
     on("Timer5", Ev::Timer, [this](EventArgs&) { Timer5_Timer(); });
-    on("Timer6", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
     on("lblTime", Ev::Change, [this](EventArgs&) { lblTime_Change(); });
     on("lblRoundScore", Ev::Change, [this](EventArgs&) { CentreIn(c("lblRoundScore"), c("frameScoreInfo")); });
     for (const TimeEntry& entry : kTimeEntries)

@@ -119,7 +119,7 @@ frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
     on("PlayCard", Ev::Click, [this](EventArgs& e) { PlayCard_Click(e.index); });
     on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
+    BindSharedHandlers(*this, Splash);
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle"); });
     on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
     for (const TimeEntry& entry : kTimeEntries)

@@ -205,7 +205,7 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
     on("cmdPass", Ev::Click, [this](EventArgs&) { cmdPass_Click(); });
     on("cmdGiveUp", Ev::Click, [this](EventArgs&) { cmdGiveUp_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash, SplashFace::RandomFace, "ScoringLabel");
+    BindSharedHandlers(*this, Splash, {.messageLabel = "ScoringLabel"});
     on("lblCurrentTotal", Ev::Change, [this](EventArgs&) { lblCurrentTotal_Change(); });
     on("lblTotalScore", Ev::Change, [this](EventArgs&) { lblTotalScore_Change(); });
     on("lblHighScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblHighScore", "ScoreRectangle"); });

@@ -133,13 +133,10 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
     ShowTimerFrame(false);
     CenterScoringLabel();
 
-    BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
+    BindSharedHandlers(*this, Splash, {.quitWaitsForScore = true});
     BindWindowEvents(
         *this, [this] { Form_Load(); }, [this] { Form_Resize(); }, [this](EventArgs& e) { Form_QueryUnload(e); });
     BindPlayAndPause(*this, [this](bool) { Play(); }, [this] { cmdPause_Click(); });
-    on("cmdQuit", Ev::Click, [this](EventArgs&) {
-        if (!TakingScore) this->runtime().unload(*this);
-    });
     on("PlayCards", Ev::Click, [this](EventArgs& e) { PlayCards_Click(e.index); });
     on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });

@@ -159,10 +159,7 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
         if (!TakingScore) cmdTakeScore_Click();
     });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
-    on("cmdQuit", Ev::Click, [this](EventArgs&) {
-        if (!TakingScore) this->runtime().unload(*this);
-    });
+    BindSharedHandlers(*this, Splash, {.quitWaitsForScore = true});
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreIn("lblCurrentScore", "ScoreRectangle"); });
     on("lblScoreTrips", Ev::Change, [this](EventArgs&) { CentreIn("lblScoreTrips", "TripsRectangle"); });
     on("lblScoreRuns", Ev::Change, [this](EventArgs&) { CentreIn("lblScoreRuns", "RunRectangle"); });
