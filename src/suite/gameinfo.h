@@ -33,6 +33,7 @@ struct GameInfo {
     const char* defaultScore;   // the score of a new table's ten lines: "30000"
     const char* settingsFile;   // "\\Spirehold.Ini" in AppPath
     std::span<const TimeEntry> timeEntries;
+    int defaultTime;            // the time limit a first start takes, one of timeEntries
     void (*registerForms)(Runtime& runtime);  // its windows and its rules text
     // The settings section that holds the score a bonus round needs; "" when
     // the file keeps none.

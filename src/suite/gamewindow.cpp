@@ -160,15 +160,18 @@ void SetTimer(Form& window, const std::string& name, int interval, bool enabled)
     timer.setEnabled(enabled);
 }
 
-void BeginFormLoad(Form& window, int16_t timeLimit, int16_t deckDesign) {
+void BeginFormLoad(Form& window, const GameInfo& game, int16_t deckDesign) {
     window.setMousePointer(11);
     window.c("Timer4").setEnabled(true);
     window.c("Timer1").setEnabled(false);
-    TimeLimit = timeLimit;
+    TimeLimit = static_cast<int16_t>(game.defaultTime);
     PlaySounds = true;
     PlayMusic = false;
     DeckDesign = deckDesign;
     CountDownScore = true;
+    for (const TimeEntry& entry : game.timeEntries)
+        if (entry.seconds == game.defaultTime) window.c(entry.menu).setChecked(true);
+    if (Control* sounds = window.find("mnuSounds")) sounds->setChecked(true);
 }
 
 void SetGameTimers(Form& window, const GameTimers& timers) {
@@ -433,12 +436,6 @@ void SetPlayMusic(Form& window, bool on, bool gameRunning) {
         StartMusic();
     else
         StopMusic();
-}
-
-void BeginFormLoad(Form& window, int timeLimit, const char* timeMenu) {
-    BeginFormLoad(window, static_cast<int16_t>(timeLimit));
-    window.c(timeMenu).setChecked(true);
-    if (Control* sounds = window.find("mnuSounds")) sounds->setChecked(true);
 }
 
 void CompleteFormLoad(Form& window, const std::string& tableName, const std::string& defaultScore) {

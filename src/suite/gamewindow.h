@@ -4,16 +4,15 @@
 // its handlers, in its own order, so that its Play, pause, time-up and close
 // read step by step in its own file. Every routine reaches the controls by
 // their names, which are the same in every game window; a control a game
-// lacks (cmdTakeScore in Fivestack, cmdExit where the game has cmdQuit) is
-// skipped.
+// lacks (cmdTakeScore, or cmdExit where the game has cmdQuit) is skipped.
 //
 // A typical game window:
 // constructor:   add(layout); PlaceControls; PrepareStandingControls(*this); SetGameTimers(*this);
-//                BindWindowEvents(...); BindPlayAndPause(...); BindSharedHandlers(*this, Splash, face);
-// Form_Load:     BeginFormLoad(*this, 45, "mnu45"); ... (its scoring defaults)
+//                BindWindowEvents(...); BindPlayAndPause(...); BindShared(points)   (gameform.h)
+// Form_Load:     BeginLoad(); ... (its scoring defaults)
 //                ShowWelcome(*this); ReadSettingsINI("\\X.Ini", SettingsSections());   (settings.h)
-//                CompleteFormLoad(*this, table, "30000");
-// Form_Resize:   if (ResizeToPlace(*this, designWidth, designHeight)) PlaceBoard();
+//                CompleteLoad();
+// Form_Resize:   if (ResizeToPlace()) PlaceBoard();
 // Timer1_Timer:  AdvanceRoundClock(*this); ShowTimeWarnings(*this);
 //                if (ElapsedSeconds == TimeLimit) { Timer1 off; hide cards; disable buttons;
 //                    ShowTimesUp(*this); BlinkLabel(c("lblMessage"), 10, 250); take score;
@@ -93,8 +92,8 @@ void PlaceControls(Form& window, std::span<const ControlSpec> places);
 // The state of the standing controls at load: fonts of the big labels,
 // lblMessage and lblScoring hidden, cmdPause disabled, the play captions and
 // tool tips, the fixed captions of the boxes ("Time:", "Score:", "Round:").
-// A window that shows its score or round in labels of its own (Blackrush's
-// lblTotalScore) leaves lblCurrentScore and lblCurrentRound out.
+// A window that shows its score or round in labels of its own leaves
+// lblCurrentScore and lblCurrentRound out.
 void PrepareStandingControls(Form& window);
 // A timer's interval and whether it runs.
 void SetTimer(Form& window, const std::string& name, int interval, bool enabled);
@@ -110,9 +109,10 @@ void SetGameTimers(Form& window, const GameTimers& timers = {});
 
 // ---- Form_Load ------------------------------------------------------------
 // The first steps of Form_Load: the hourglass, Timer4 on, Timer1 off, and the
-// shared defaults: TimeLimit, PlaySounds on, PlayMusic off, DeckDesign,
-// CountDownScore on. The game then sets its own scoring values.
-void BeginFormLoad(Form& window, int16_t timeLimit, int16_t deckDesign = 1);
+// shared defaults: the game's default time limit with its entry ticked,
+// sounds on (ticked), music off, `deckDesign`, count-down on. The game then
+// sets its own scoring values.
+void BeginFormLoad(Form& window, const GameInfo& game, int16_t deckDesign = 1);
 // left = (screen width - width) / 2, top likewise, integer division.
 void CentreOnScreen(Form& window);
 // Window caption = AppTitle; panel 1 "Welcome to " + AppTitle + two blanks;
@@ -231,7 +231,8 @@ void ApplyTimeSetting(Form& window, const std::string& value, std::span<const Ti
 
 // The design entries by DeckDesign number 1 to 4.
 inline constexpr const char* kDeckMenus[4] = {"mnuPalm", "mnuMagic", "mnuNight", "mnuHot"};
-// Fivestack and Blackrush number them the other way round at the ends.
+// The same entries numbered the other way round at the ends, for a game whose
+// designs count from the other end.
 inline constexpr const char* kReversedDeckMenus[4] = {"mnuHot", "mnuMagic", "mnuNight", "mnuPalm"};
 // ClearDeckCheck, tick the entry, move "FULL", "BACK", "HALF" to its design.
 // The game then refreshes its stock (and, when paused, its field) and sets
@@ -248,10 +249,6 @@ void SetPlaySounds(Form& window, bool on);
 void SetPlayMusic(Form& window, bool on, bool gameRunning);
 
 // ---- Shared steps of a game window ------------------------------------------
-// Form_Load's opening: the hourglass, Timer4 on, Timer1 off, and the shared
-// defaults: `timeLimit` with its entry `timeMenu` ticked, sounds on (ticked),
-// music off, back design 1, count-down on.
-void BeginFormLoad(Form& window, int timeLimit, const char* timeMenu);
 // Form_Load's close: GameStartTime, the splash captions, the window centred,
 // the dial prepared, the table's top score shown, the normal pointer.
 void CompleteFormLoad(Form& window, const std::string& tableName, const std::string& defaultScore);
@@ -305,7 +302,7 @@ SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeigh
 // shared variable.
 SettingsSection PlayMusicSection(Form& window);   // "[Play Music]", "True"/"False"
 SettingsSection PlaySoundsSection(Form& window);  // "[Play Sounds]"
-// "[Time]" (Blackrush names it "[Time Limit]"): a value that names an entry clicks it.
+// "[Time]" (or the game's own name for it): a value that names an entry clicks it.
 SettingsSection TimeSection(Form& window, std::span<const TimeEntry> entries, const char* name = "[Time]");
 // "[Deck]": 1 to 4 clicks that design's entry.
 SettingsSection DeckSection(Form& window, const char* const (&menus)[4] = kDeckMenus);
@@ -333,7 +330,7 @@ bool StopOnRunTimeError(Form& window, const RuntimeError& error);
 struct FinishGameSteps {
     std::function<void(bool)> showCards;               // the game's ShowCards
     std::function<void(bool, bool)> showControls;      // the game's ShowControls
-    bool disableTakeScoreMenu = true;                  // false in Treyshift, Handgrid, Blackrush
+    bool disableTakeScoreMenu = true;                  // false where Take Score has no menu entry
 };
 // The shared end of a game: Timer1 off, GameInProgress false, "&Play",
 // mnuCustom, mnuTime (and mnuClearHighRun) enabled; cmdPause, cmdTakeScore,

@@ -61,7 +61,8 @@ void Form::on(const std::string& control, Ev event, Handler handler) {
 
 void Form::replace(const std::string& control, Ev event, Handler handler) {
     auto it = handlers_.find({control, event});
-    if (it == handlers_.end()) throw std::logic_error(HandlerName(name_, control, event) + " has no handler to replace");
+    if (it == handlers_.end())
+        throw std::logic_error(HandlerName(name_, control, event) + " has no handler to replace");
     it->second = std::move(handler);
 }
 

@@ -72,6 +72,7 @@ const GameInfo kTestGame = {
     .defaultScore = kDefaultScore,
     .settingsFile = kSettingsFile,
     .timeEntries = kTimeEntries,
+    .defaultTime = 60,
     .registerForms = RegisterTestGameForms,
 };
 }  // namespace

@@ -142,8 +142,7 @@ void RegisterBlackrush(Runtime& runtime) {
     RegisterBlackrushRules();
 }
 
-frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
-    setSize(kDesignWidth, kDesignHeight);
+frmBlackrush::frmBlackrush(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth, kDesignHeight) {
     add(Layout());
     PlaceControls(*this, kStandingPlaces);
     PrepareStandingControls(*this);
@@ -230,7 +229,7 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
     on("cmdPass", Ev::Click, [this](EventArgs&) { cmdPass_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
     // Timer3 is the 21 Counter here; the time of day is Timer6's.
-    BindSharedHandlers(*this, Splash, {.messageLabel = "ScoringLabelInfo", .timeOfDayTimer = "Timer6"});
+    BindShared({.messageLabel = "ScoringLabelInfo", .timeOfDayTimer = "Timer6"});
     on("Timer3", Ev::Timer, [this](EventArgs&) { Timer3_Timer(); });
     on("Timer5", Ev::Timer, [this](EventArgs&) { Timer5_Timer(); });
     on("lblTime", Ev::Change, [this](EventArgs&) { lblTime_Change(); });
@@ -278,8 +277,7 @@ SettingsLayout frmBlackrush::SettingsSections() {
         return [&target](const std::string& v) { target = CLng(Val(v)); };
     };
     SettingsLayout layout = {
-        {"[Play Sounds]", [this](const std::string& v) { SetPlaySounds(*this, ParseBoolText(v)); },
-         [] { return std::string(BoolText(PlaySounds)); }},
+        PlaySoundsSection(*this),
         {"[Timer Speed]",
          [this](const std::string& v) {
              for (int16_t speed : {kNormalSpeed, kSlowSpeed, kSlowestSpeed})
@@ -289,10 +287,8 @@ SettingsLayout frmBlackrush::SettingsSections() {
                  }
          },
          [this] { return NumText(Scoring.CounterSpeed); }},
-        {"[Play Music]", [this](const std::string& v) { SetPlayMusic(*this, ParseBoolText(v), false); },
-         [] { return std::string(BoolText(PlayMusic)); }},
-        {"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kReversedDeckMenus); },
-         [] { return NumText(DeckDesign); }},
+        PlayMusicSection(*this),
+        DeckSection(*this, kReversedDeckMenus),
         {"[Cards To Pass]", number16(Scoring.CardsToPass), [this] { return NumText(Scoring.CardsToPass); }},
         {"[TwentyOne Bonus Value]", number32(Scoring.TwentyOneBonusValue),
          [this] { return NumText(Scoring.TwentyOneBonusValue); }},
@@ -303,27 +299,18 @@ SettingsLayout frmBlackrush::SettingsSections() {
         {"[Deck Completion Bonus]", number32(Scoring.DeckCompletionBonus),
          [this] { return NumText(Scoring.DeckCompletionBonus); }},
         {"[Wait Period]", number16(Scoring.WaitPeriod), [this] { return NumText(Scoring.WaitPeriod); }},
-        {"[Time Limit]", [this](const std::string& v) { ApplyTimeSetting(*this, v, kTimeEntries); },
-         [] { return NumText(TimeLimit); }},
+        TimeSection(*this, kTimeEntries, "[Time Limit]"),
         {"[Bonus Round Score]", number32(Scoring.BonusScore), [this] { return NumText(Scoring.BonusScore); }},
-        {"[Count Down Score]", [](const std::string& v) { CountDownScore = ParseBoolText(v); },
-         [] { return std::string(BoolText(CountDownScore)); }},
+        CountDownSection(),
     };
     for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
     return layout;
 }
 
 void frmBlackrush::Form_Load() {
-    setMousePointer(11);
-    c("Timer4").setEnabled(true);
-    c("Timer1").setEnabled(false);
-    ChooseTimeLimit(*this, kTimeEntries, "mnu90");
-    SetPlaySounds(*this, true);
-    SetPlayMusic(*this, false, false);
-    // The design's number alone: the backs in force stay until "[Deck]" or
-    // the menu chooses a design.
-    DeckDesign = 3;
-    CountDownScore = true;
+    // Design 3 by its number alone: the backs in force stay until "[Deck]"
+    // or the menu chooses a design.
+    BeginLoad(3);
     Scoring = ScoringValues{};
     c("Timer3").setInterval(Scoring.CounterSpeed);
     DeckPosition = 0;
@@ -331,7 +318,7 @@ void frmBlackrush::Form_Load() {
     ShowWelcome(*this);
     c("StatusBar1").setPanel(1, "Welcome to " + AppTitle + "!");
     ReadSettingsINI(kSettingsFileName, SettingsSections());
-    CompleteFormLoad(*this, kTableName, kTableTopScore);
+    CompleteLoad();
     CheckForCustom();
 }
 
@@ -342,7 +329,7 @@ void frmBlackrush::Form_QueryUnload(EventArgs& args) {
 // The cards keep their size: a resize centres the board in the window and
 // keeps the buttons at the right edge and the status bar at the bottom.
 void frmBlackrush::Form_Resize() {
-    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+    if (ResizeToPlace()) PlaceBoard();
 }
 
 void frmBlackrush::PlaceBoard() {
@@ -382,7 +369,7 @@ void frmBlackrush::mnuDeck_Click(int design) {
 }
 
 void frmBlackrush::mnuClear_Click() {
-    ClearHighScores(*this, kTableName, kTableTopScore);
+    ClearTable();
 }
 
 // The menu entry does what the button does, and nothing while the button

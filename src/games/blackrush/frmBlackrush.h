@@ -18,13 +18,14 @@
 
 #include "games/blackrush/info.h"
 #include "games/blackrush/modBlackrush.h"
+#include "suite/gameform.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
 
 namespace ch {
 
-class frmBlackrush : public Form {
+class frmBlackrush : public GameForm {
 public:
     explicit frmBlackrush(Runtime& runtime);
 
@@ -76,7 +77,6 @@ private:
     void ClearDial();
     Control& ColumnImage(int index, int slot) const;
     int ColumnTotalValue(int index) const;
-    void Wave(const char* name) const;
 
     // ---- The rounds (frmBlackrushRounds.cpp) ----
     void cmdPlay_Click();
@@ -100,7 +100,6 @@ private:
     int16_t TwentyOnes = 0;
     bool QuitRequested = false;
     bool CounterWasRunning = false;  // Timer3 before a pause
-    SplashAnimation Splash;
     // Design places of the controls that move with the board on a resize.
     struct DesignPlace {
         Control* control;

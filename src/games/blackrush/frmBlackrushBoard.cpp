@@ -326,10 +326,6 @@ Control& frmBlackrush::ColumnImage(int index, int slot) const { return c(kColumn
 
 int frmBlackrush::ColumnTotalValue(int index) const { return CInt(Val(c("ColumnTotal", index).caption())); }
 
-void frmBlackrush::Wave(const char* name) const {
-    if (PlaySounds) PlayWaveFile(name);
-}
-
 void frmBlackrush::Pause(int ms) { Sleep(std::max(ms, 0)); }
 
 }  // namespace ch

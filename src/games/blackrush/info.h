@@ -28,6 +28,7 @@ inline constexpr GameInfo kGame = {
     .defaultScore = kTableTopScore,
     .settingsFile = kSettingsFileName,
     .timeEntries = kTimeEntries,
+    .defaultTime = 90,
     .registerForms = RegisterBlackrush,
     .bonusSection = "[Bonus Round Score]",
 };

@@ -82,8 +82,7 @@ void RegisterDuopick(Runtime& runtime) {
     RegisterRules("Duopick!", DuopickRulesText);
 }
 
-frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
-    setSize(kDesignWidth, kDesignHeight);
+frmDuopick::frmDuopick(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth, kDesignHeight) {
     add(Layout());
     PlaceControls(*this, kMessages);
     PrepareStandingControls(*this);
@@ -119,7 +118,7 @@ frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
     on("PlayCard", Ev::Click, [this](EventArgs& e) { PlayCard_Click(e.index); });
     on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash);
+    BindShared();
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle"); });
     on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
     for (const TimeEntry& entry : kTimeEntries)
@@ -173,7 +172,7 @@ SettingsLayout frmDuopick::SettingsSections() {
 }
 
 void frmDuopick::Form_Load() {
-    BeginFormLoad(*this, 45, "mnu45");
+    BeginLoad();
     PairsBonus = kDefaultPairsBonus;
     RunsBonus = kDefaultRunsBonus;
     TimeBonus = kDefaultTimeBonus;
@@ -183,7 +182,7 @@ void frmDuopick::Form_Load() {
     ReadSettingsINI(kSettingsFile, SettingsSections());
     CheckForCustom();
     ShowBonusLabels();
-    CompleteFormLoad(*this, kTable, kMenuScore);
+    CompleteLoad();
 }
 
 // The clock runs on while the question stands.
@@ -204,7 +203,7 @@ void frmDuopick::ShowBonusLabels() {
 // of the window, the command column at its right edge and the status bar
 // at its bottom.
 void frmDuopick::Form_Resize() {
-    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+    if (ResizeToPlace()) PlaceBoard();
 }
 
 void frmDuopick::PlaceBoard() {

@@ -18,13 +18,14 @@
 
 #include "games/duopick/info.h"
 #include "games/duopick/modDuopick.h"
+#include "suite/gameform.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
 
 namespace ch {
 
-class frmDuopick : public Form {
+class frmDuopick : public GameForm {
 public:
     explicit frmDuopick(Runtime& runtime);
 
@@ -62,7 +63,6 @@ private:
     void CardStackPicture_Click();
     void ShowStackStage();
     void ShowCardImage(int index, const std::string& code);
-    void Wave(const char* name) const;
 
     // ---- The rounds (frmDuopickRounds.cpp)
     void cmdPlay_Click();
@@ -92,7 +92,6 @@ private:
     int32_t RunsCount = 0;
     bool RoundCompleted = false;
     int16_t CurrentRound = 1;
-    SplashAnimation Splash;
 };
 
 // The rules window's text from the live settings (rulestext.cpp).

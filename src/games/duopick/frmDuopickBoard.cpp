@@ -233,8 +233,4 @@ void frmDuopick::ShowControls(bool visible, bool scoreVisible) {
         c(name).setVisible(visible);
 }
 
-void frmDuopick::Wave(const char* name) const {
-    if (PlaySounds) PlayWaveFile(name);
-}
-
 }  // namespace ch

@@ -32,6 +32,7 @@ inline constexpr GameInfo kGame = {
     .defaultScore = kDefaultScore,
     .settingsFile = kSettingsFile,
     .timeEntries = kTimeEntries,
+    .defaultTime = 45,
     .registerForms = RegisterDuopick,
     .bonusSection = "[Bonus Score]",
 };

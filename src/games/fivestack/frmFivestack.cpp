@@ -146,8 +146,7 @@ void RegisterFivestack(Runtime& runtime) {
     RegisterFivestackRules();
 }
 
-frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
-    setSize(kDesignWidth, kDesignHeight);
+frmFivestack::frmFivestack(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth, kDesignHeight) {
     add(Layout());
     PrepareStandingControls(*this);
     SetGameTimers(*this);
@@ -205,7 +204,7 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
     on("cmdPass", Ev::Click, [this](EventArgs&) { cmdPass_Click(); });
     on("cmdGiveUp", Ev::Click, [this](EventArgs&) { cmdGiveUp_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash, {.messageLabel = "ScoringLabel"});
+    BindShared({.messageLabel = "ScoringLabel"});
     on("lblCurrentTotal", Ev::Change, [this](EventArgs&) { lblCurrentTotal_Change(); });
     on("lblTotalScore", Ev::Change, [this](EventArgs&) { lblTotalScore_Change(); });
     on("lblHighScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblHighScore", "ScoreRectangle"); });
@@ -250,14 +249,10 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
 
 SettingsLayout frmFivestack::SettingsSections() {
     SettingsLayout layout = {
-        {"[Time]", [this](const std::string& v) { ApplyTimeSetting(*this, v, kTimeEntries); },
-         [] { return NumText(TimeLimit); }},
-        {"[Play Sounds]", [this](const std::string& v) { SetPlaySounds(*this, ParseBoolText(v)); },
-         [] { return std::string(BoolText(PlaySounds)); }},
-        {"[Play Music]", [this](const std::string& v) { SetPlayMusic(*this, ParseBoolText(v), false); },
-         [] { return std::string(BoolText(PlayMusic)); }},
-        {"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kReversedDeckMenus); },
-         [] { return NumText(DeckDesign); }},
+        TimeSection(*this, kTimeEntries),
+        PlaySoundsSection(*this),
+        PlayMusicSection(*this),
+        DeckSection(*this, kReversedDeckMenus),
         {"[TimeBonusMax]", [this](const std::string& v) { TimeBonusMax = CInt(Val(v)); },
          [this] { return NumText(TimeBonusMax); }},
         {"[TimeBonusMin]", [this](const std::string& v) { TimeBonusMin = CInt(Val(v)); },
@@ -266,8 +261,7 @@ SettingsLayout frmFivestack::SettingsSections() {
          [this] { return NumText(BonusScore); }},
         {"[WaitPeriod]", [this](const std::string& v) { WaitPeriod = CInt(Val(v)); },
          [this] { return NumText(WaitPeriod); }},
-        {"[CountDownScore]", [](const std::string& v) { CountDownScore = ParseBoolText(v); },
-         [] { return std::string(BoolText(CountDownScore)); }},
+        CountDownSection("[CountDownScore]"),
         {"[Cards To Pass]",
          [this](const std::string& v) {
              CardsToPass = CInt(Val(v));
@@ -280,7 +274,7 @@ SettingsLayout frmFivestack::SettingsSections() {
 }
 
 void frmFivestack::Form_Load() {
-    BeginFormLoad(*this, kDefaultTimeLimit);
+    BeginLoad();
     GameInProgress = false;
     BonusScore = kDefaultBonusScore;
     TimeBonusMax = kDefaultTimeBonusMax;
@@ -288,13 +282,12 @@ void frmFivestack::Form_Load() {
     WaitPeriod = kDefaultWaitPeriod;
     CardsToPass = kDefaultCardsToPass;
     PassesLeft = CardsToPass;
-    c("mnuSounds").setChecked(true);
     ShowWelcome(*this);
     c("StatusBar1").setPanel(1, "Welcome to " + AppTitle + "   ");
     raise(&c("mnu60"), Ev::Click);
     ReadSettingsINI(kSettingsFile, SettingsSections());
     TimeBonusDecay = fivestack::TimeBonusDecay(TimeBonusMax, TimeBonusMin, TimeLimit);
-    CompleteFormLoad(*this, kTable, kDefaultTopScore);
+    CompleteLoad();
     CheckForCustom();
     if (PassesLeft == 0) c("cmdPass").setEnabled(false);
 }
@@ -331,7 +324,7 @@ void frmFivestack::Form_Resize() {
             if (PlayMusic) StartMusic();
         }
     }
-    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+    if (ResizeToPlace()) PlaceBoard();
 }
 
 void frmFivestack::PlaceBoard() {
@@ -369,7 +362,7 @@ void frmFivestack::mnuDeck_Click(int design) {
 }
 
 void frmFivestack::mnuClear_Click() {
-    ClearHighScores(*this, kTable, kDefaultTopScore);
+    ClearTable();
 }
 
 void frmFivestack::mnuCustom_Click() { runtime().show("frmFivestackCustomScoring", true); }

@@ -18,13 +18,14 @@
 
 #include "games/fivestack/info.h"
 #include "games/fivestack/modFivestack.h"
+#include "suite/gameform.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
 
 namespace ch {
 
-class frmFivestack : public Form {
+class frmFivestack : public GameForm {
 public:
     explicit frmFivestack(Runtime& runtime);
 
@@ -100,7 +101,6 @@ private:
     void CenterTimeBonus();
     void lblTotalScore_Change();
     void ShowScore();
-    void Wave(const char* name) const;
 
     std::array<fivestack::Column, fivestack::kColumns> Columns{};
     int16_t DeckPosition = 1;
@@ -110,7 +110,6 @@ private:
     bool QuitRequested = false;
     bool Busted = false;
     bool Minimised = false;  // the clock was stopped by minimising the window
-    SplashAnimation Splash;
 };
 
 // The rules window's text of Fivestack, from the window's live settings.

@@ -453,8 +453,4 @@ void frmFivestack::lblTotalScore_Change() {
 
 void frmFivestack::ShowScore() { c("lblTotalScore").setCaption(NumText(CurrentScore)); }
 
-void frmFivestack::Wave(const char* name) const {
-    if (PlaySounds) PlayWaveFile(name);
-}
-
 }  // namespace ch

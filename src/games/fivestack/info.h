@@ -31,6 +31,7 @@ inline constexpr GameInfo kGame = {
     .defaultScore = kDefaultTopScore,
     .settingsFile = kSettingsFile,
     .timeEntries = kTimeEntries,
+    .defaultTime = 60,
     .registerForms = RegisterFivestack,
     .bonusSection = "[BonusScore]",
 };

@@ -100,8 +100,7 @@ void RegisterHandgrid(Runtime& runtime) {
     RegisterRules("Handgrid!", HandgridRules);
 }
 
-frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
-    setSize(kDesignWidth, kDesignHeight);
+frmHandgrid::frmHandgrid(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth, kDesignHeight) {
     add(Layout());
     PlaceControls(*this, kStandingPlaces);
     PrepareStandingControls(*this);
@@ -133,7 +132,7 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
     ShowTimerFrame(false);
     CenterScoringLabel();
 
-    BindSharedHandlers(*this, Splash, {.quitWaitsForScore = true});
+    BindShared({.quitWaitsForScore = true});
     BindWindowEvents(
         *this, [this] { Form_Load(); }, [this] { Form_Resize(); }, [this](EventArgs& e) { Form_QueryUnload(e); });
     BindPlayAndPause(*this, [this](bool) { Play(); }, [this] { cmdPause_Click(); });
@@ -151,7 +150,7 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
     for (int design = 1; design <= 4; ++design)
         on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmHandgridCustom", true); });
-    on("mnuClear", Ev::Click, [this](EventArgs&) { ClearHighScores(*this, kTable, kDefaultScore); });
+    on("mnuClear", Ev::Click, [this](EventArgs&) { ClearTable(); });
 
     expose("PlayedCards", [this](int index, Value& out) {
         if (index < 0 || index >= kCells) return false;
@@ -214,7 +213,7 @@ SettingsLayout frmHandgrid::SettingsSections() {
 }
 
 void frmHandgrid::Form_Load() {
-    BeginFormLoad(*this, kDefaultTimeLimit, "mnu75");
+    BeginLoad();
     BonusScore = kDefaultBonusScore;
     TimeBonus = kDefaultTimeBonus;
     HandScores = kDefaultHandValues;
@@ -226,7 +225,7 @@ void frmHandgrid::Form_Load() {
     ShowOverWrites();
     c("lblTimeBonus").setCaption(NumText(TimeLimit));
     lblRound_Change();
-    CompleteFormLoad(*this, kTable, kDefaultScore);
+    CompleteLoad();
 }
 
 // The clock runs on while the question stands.
@@ -245,7 +244,7 @@ void frmHandgrid::ShowBonusGoal() {
 // The cards keep their size: a larger window moves the whole board to its
 // middle, the buttons to its right edge and the status bar to its foot.
 void frmHandgrid::Form_Resize() {
-    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+    if (ResizeToPlace()) PlaceBoard();
 }
 
 void frmHandgrid::PlaceBoard() {

@@ -14,13 +14,14 @@
 
 #include "games/handgrid/info.h"
 #include "games/handgrid/modHandgrid.h"
+#include "suite/gameform.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
 
 namespace ch {
 
-class frmHandgrid : public Form {
+class frmHandgrid : public GameForm {
 public:
     explicit frmHandgrid(Runtime& runtime);
 
@@ -67,7 +68,6 @@ private:
     void CenterScoringLabel();
     void ShowOverWrites();
     void ShowStackPicture(std::string key);
-    void Wave(const char* name) const;
 
     // frmHandgridRounds.cpp: the rounds.
     void Play();
@@ -92,7 +92,6 @@ private:
     bool HandSoundPlayed = false;
     int16_t CurrentRound = 1;
     std::string StackKey = "FULL";
-    SplashAnimation Splash;
 };
 
 // The rules window's text for Handgrid (rulestext.cpp).

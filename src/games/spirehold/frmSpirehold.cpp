@@ -137,8 +137,7 @@ void RegisterSpirehold(Runtime& runtime) {
     RegisterRules("Spirehold!", SpireholdRules);
 }
 
-frmSpirehold::frmSpirehold(Runtime& runtime) : Form(runtime, "frmSpirehold") {
-    setSize(kDesignWidth, kDesignHeight);
+frmSpirehold::frmSpirehold(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth, kDesignHeight) {
     add(Layout());
     PlaceControls(*this, kPlaces);
     PlaceControls(*this, kButtonPlaces);
@@ -170,7 +169,7 @@ frmSpirehold::frmSpirehold(Runtime& runtime) : Form(runtime, "frmSpirehold") {
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle"); });
     on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash);
+    BindShared();
     for (const TimeEntry& entry : kTimeEntries)
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int design = 1; design <= 4; ++design)
@@ -217,7 +216,7 @@ SettingsLayout frmSpirehold::SettingsSections() {
 }
 
 void frmSpirehold::Form_Load() {
-    BeginFormLoad(*this, kDefaultTimeLimit, "mnu45");
+    BeginLoad();
     CardValue = kDefaultCardValue;
     BonusScore = kDefaultBonusScore;
     HighRunBonus = kDefaultHighRunBonus;
@@ -226,7 +225,7 @@ void frmSpirehold::Form_Load() {
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
     CheckForCustom();
-    CompleteFormLoad(*this, kTable, kDefaultScore);
+    CompleteLoad();
 }
 
 void frmSpirehold::Form_QueryUnload(EventArgs& args) {
@@ -243,12 +242,7 @@ void frmSpirehold::CheckForCustom() {
 // of the board keeps its shape around it; the buttons keep to the right edge
 // and the status bar to the bottom.
 void frmSpirehold::Form_Resize() {
-    if (windowState() == 1) return;
-    if ((width() < kDesignWidth || height() < kDesignHeight) && windowState() == 0) {
-        setSize(kDesignWidth, kDesignHeight);
-        return;
-    }
-    PlaceBoard();
+    if (ResizeToPlace()) PlaceBoard();
 }
 
 void frmSpirehold::PlaceBoard() {
@@ -291,7 +285,7 @@ void frmSpirehold::mnuDeck_Click(int design) {
 }
 
 void frmSpirehold::mnuClear_Click() {
-    ClearHighScores(*this, kTable, kDefaultScore);
+    ClearTable();
 }
 
 // A running game is paused while the question stands and resumed after it.

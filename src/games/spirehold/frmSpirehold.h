@@ -15,6 +15,7 @@
 
 #include "games/spirehold/info.h"
 #include "games/spirehold/modSpirehold.h"
+#include "suite/gameform.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
@@ -23,7 +24,7 @@ namespace ch {
 
 class RuntimeError;
 
-class frmSpirehold : public Form {
+class frmSpirehold : public GameForm {
 public:
     explicit frmSpirehold(Runtime& runtime);
 
@@ -78,7 +79,6 @@ private:
     void ShowCardsRemaining();
     void ShowPicture(const char* name, int index, const std::string& code);
     void PlaceBoard();
-    void Wave(const char* name) const;
     bool GameRunning() const;
     SettingsLayout SettingsSections();
 
@@ -94,7 +94,6 @@ private:
     int32_t TowersCompleted = 0;
     bool NewHighRun = false;
     int16_t CurrentRound = 1;
-    SplashAnimation Splash;
 };
 
 

@@ -192,8 +192,4 @@ void frmSpirehold::ShowPicture(const char* name, int index, const std::string& c
     c(name, index).setPicture(ImageList2().indexOf(CardKey(code)));
 }
 
-void frmSpirehold::Wave(const char* name) const {
-    if (PlaySounds) PlayWaveFile(name);
-}
-
 }  // namespace ch

@@ -33,6 +33,7 @@ inline constexpr GameInfo kGame = {
     .defaultScore = kDefaultScore,
     .settingsFile = kSettingsFile,
     .timeEntries = kTimeEntries,
+    .defaultTime = 45,
     .registerForms = RegisterSpirehold,
     .bonusSection = "[Bonus Score]",
     .highScoreCaption = "Current High Score: ",

@@ -135,8 +135,7 @@ void RegisterSumfall(Runtime& runtime) {
     RegisterRules("Sumfall!", SumfallRules);
 }
 
-frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
-    setSize(kDesignWidth, kDesignHeight);
+frmSumfall::frmSumfall(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth, kDesignHeight) {
     add(Layout());
     PlaceControls(*this, kStandingPlaces);
     PrepareStandingControls(*this);
@@ -195,7 +194,7 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
     on("PlayCardPicture", Ev::Click, guarded([this](EventArgs&) { PlayCardPicture_Click(); }));
     on("PlayCardPicture", Ev::MouseMove, [this](EventArgs&) { PlayCardPicture_MouseMove(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash, {.face = {ImageCatalogue::kSumfallSplash}});
+    BindShared({.face = {ImageCatalogue::kSumfallSplash}});
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { lblCurrentScore_Change(); });
     on("lblMessage", Ev::Change, [this](EventArgs&) { lblMessage_Change(); });
     on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
@@ -279,7 +278,7 @@ SettingsLayout frmSumfall::SettingsSections() {
 }
 
 void frmSumfall::Form_Load() {
-    BeginFormLoad(*this, 90, "mnu90");
+    BeginLoad();
     CountDownScore = true;
     CardGoal = kDefaultCardGoal;
     BonusRoundScore = kDefaultBonusRoundScore;
@@ -293,7 +292,7 @@ void frmSumfall::Form_Load() {
     c("lblElevens").setCaption(CardGoalWord(CardGoal));
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
-    CompleteFormLoad(*this, kTable, kDefaultScore);
+    CompleteLoad();
 }
 
 // A saved game named on the command line is opened the first time the window
@@ -314,7 +313,7 @@ void frmSumfall::Form_QueryUnload(EventArgs& args) {
 // The cards keep their size: a resize only places the board around the
 // middle of the window, the buttons at its right edge.
 void frmSumfall::Form_Resize() {
-    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+    if (ResizeToPlace()) PlaceBoard();
 }
 
 void frmSumfall::PlaceBoard() {
@@ -405,7 +404,7 @@ void frmSumfall::mnuDrawTimer_Click() {
 }
 
 void frmSumfall::mnuClear_Click() {
-    ClearHighScores(*this, kTable, kDefaultScore);
+    ClearTable();
 }
 
 }  // namespace ch

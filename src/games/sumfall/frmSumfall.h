@@ -16,13 +16,14 @@
 
 #include "games/sumfall/info.h"
 #include "games/sumfall/modSumfall.h"
+#include "suite/gameform.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
 
 namespace ch {
 
-class frmSumfall : public Form {
+class frmSumfall : public GameForm {
 public:
     explicit frmSumfall(Runtime& runtime);
 
@@ -108,7 +109,6 @@ private:
     void ClearColorCheck();
     void ShowScore();
     void PlaceBoard();
-    void Wave(const char* name) const;
     SettingsLayout SettingsSections();
 
     // The picture of a card code; a code with no picture (an empty slot of a
@@ -135,7 +135,6 @@ private:
     bool ReplayPending = false;
     // Sumfall counts its scores visibly by a switch of its own, not the shared one.
     bool CountDownScore = true;
-    SplashAnimation Splash;
 };
 
 // The rules window's text, from the open window's live values.

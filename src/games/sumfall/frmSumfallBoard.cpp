@@ -380,7 +380,4 @@ void frmSumfall::ClearColorCheck() {
 }
 
 
-void frmSumfall::Wave(const char* name) const {
-    if (PlaySounds) PlayWaveFile(name);
-}
 }  // namespace ch

@@ -34,6 +34,7 @@ inline constexpr GameInfo kGame = {
     .defaultScore = kDefaultScore,
     .settingsFile = kSettingsFile,
     .timeEntries = kTimeEntries,
+    .defaultTime = 90,
     .registerForms = RegisterSumfall,
     .cardGoals = kCardGoals,
 };

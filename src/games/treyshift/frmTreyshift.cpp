@@ -100,8 +100,7 @@ std::vector<ControlSpec> Layout() {
 
 }  // namespace
 
-frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
-    setSize(kDesignWidth, kDesignHeight);
+frmTreyshift::frmTreyshift(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth, kDesignHeight) {
     add(Layout());
     PrepareStandingControls(*this);
     c("lblHighScore").move(kHighScoreLeft, kHighScoreTop, 2400, 255);
@@ -159,7 +158,7 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
         if (!TakingScore) cmdTakeScore_Click();
     });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash, {.quitWaitsForScore = true});
+    BindShared({.quitWaitsForScore = true});
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreIn("lblCurrentScore", "ScoreRectangle"); });
     on("lblScoreTrips", Ev::Change, [this](EventArgs&) { CentreIn("lblScoreTrips", "TripsRectangle"); });
     on("lblScoreRuns", Ev::Change, [this](EventArgs&) { CentreIn("lblScoreRuns", "RunRectangle"); });
@@ -224,7 +223,7 @@ SettingsLayout frmTreyshift::SettingsSections() {
 }
 
 void frmTreyshift::Form_Load() {
-    BeginFormLoad(*this, kDefaultTimeLimit, "mnu120");
+    BeginLoad();
     TripValue = kDefaults.TripValue;
     RunValue = kDefaults.RunValue;
     FlushValue = kDefaults.FlushValue;
@@ -235,7 +234,7 @@ void frmTreyshift::Form_Load() {
     ShowWelcome(*this);
     ReadSettingsINI(kSettingsFile, SettingsSections());
     CheckForCustom();
-    CompleteFormLoad(*this, kTable, kTableDefault);
+    CompleteLoad();
 }
 
 // The clock runs on while the question stands.
@@ -246,7 +245,7 @@ void frmTreyshift::Form_QueryUnload(EventArgs& args) {
 // The cards keep their size: a resize keeps the board in the middle of the
 // window, the buttons and boxes at its right edge, the status bar at the bottom.
 void frmTreyshift::Form_Resize() {
-    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+    if (ResizeToPlace()) PlaceBoard();
 }
 
 void frmTreyshift::PlaceBoard() {
@@ -293,7 +292,7 @@ void frmTreyshift::mnuDeck_Click(int design) {
 }
 
 void frmTreyshift::mnuClear_Click() {
-    ClearHighScores(*this, kTable, kTableDefault);
+    ClearTable();
 }
 
 void frmTreyshift::CheckForCustom() {

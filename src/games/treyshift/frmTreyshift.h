@@ -17,13 +17,14 @@
 
 #include "games/treyshift/info.h"
 #include "games/treyshift/modTreyshift.h"
+#include "suite/gameform.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
 
 namespace ch {
 
-class frmTreyshift : public Form {
+class frmTreyshift : public GameForm {
 public:
     explicit frmTreyshift(Runtime& runtime);
 
@@ -92,7 +93,6 @@ private:
     void CentreIn(const char* label, const char* rectangle);
     void FitLabel(const char* label);
     void ShowScore();
-    void Wave(const char* name) const;
     int ScaleWidth() const;
 
     // The board.
@@ -108,7 +108,6 @@ private:
     int16_t CurrentRound = 1;
     bool EndingRound = false;  // a round is being scored
     long RoundEnds = 0;        // rounds scored since the window was made
-    SplashAnimation Splash;
 };
 
 // The rules window's text from the live settings (rulestext.cpp).

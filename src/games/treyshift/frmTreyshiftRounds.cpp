@@ -392,10 +392,6 @@ void frmTreyshift::FitLabel(const char* label) { FitLabelToText(c(label)); }
 
 void frmTreyshift::ShowScore() { c("lblCurrentScore").setCaption(FormatScore(CurrentScore)); }
 
-void frmTreyshift::Wave(const char* name) const {
-    if (PlaySounds && *name) PlayWaveFile(name);
-}
-
 // The inner width of the window, inside its borders.
 int frmTreyshift::ScaleWidth() const { return width() - 120; }
 

@@ -31,6 +31,7 @@ inline constexpr GameInfo kGame = {
     .defaultScore = kTableDefault,
     .settingsFile = kSettingsFile,
     .timeEntries = kTimeEntries,
+    .defaultTime = 120,
     .registerForms = RegisterTreyshift,
     .bonusSection = "[Bonus Score]",
 };
