@@ -38,8 +38,8 @@ frmHighScores::frmHighScores(Runtime& runtime) : Form(runtime, "frmHighScores") 
     setSize(5520, 5040);
     const std::vector<ControlSpec> layout = Layout();
     add(layout);
-    for (int i = 1; i < 20; i += 2) c("ScoreList", i).setAlignment(1);
-    c("lblHiScoreInfo").setAlignment(2);
+    for (int i = 1; i < 20; i += 2) c("ScoreList", i).setAlignment(Align::Right);
+    c("lblHiScoreInfo").setAlignment(Align::Center);
     c("cmdDone").setDefault(true);
     c("cmdDone").setCancel(true);
     on(Ev::Load, [this](EventArgs&) { Form_Load(); });

@@ -90,10 +90,10 @@ void frmSelect::Form_Load() {
 }
 
 void frmSelect::GameButton_Click(const char* title, const char* formName) {
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     AppTitle = title;
     runtime().show(formName);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
     runtime().hide(*this);
 }
 

@@ -23,15 +23,15 @@ struct TimeEntry {
 };
 
 struct GameInfo {
-    const char* name;           // the short name of the tools: "spirehold"
-    const char* title;          // AppTitle: "Spirehold!"
-    const char* form;           // the game window: "frmSpirehold"
-    const char* button;         // its selector button: "cmdSpirehold"; null for none
-    const char* buttonCaption;  // "&Spirehold"
+    const char* name;           // the short name of the tools: "xgame"
+    const char* title;          // AppTitle: "Xgame!"
+    const char* form;           // the game window: "frmXgame"
+    const char* button;         // its selector button: "cmdXgame"; null for none
+    const char* buttonCaption;  // "&Xgame"
     int buttonSlot;             // the button's place in the selector's column, 0 at the top
-    const char* tableName;      // its high score tables: "SpireholdHiScores" + time limit
+    const char* tableName;      // its high score tables: "XgameHiScores" + time limit
     const char* defaultScore;   // the score of a new table's ten lines: "30000"
-    const char* settingsFile;   // "\\Spirehold.Ini" in AppPath
+    const char* settingsFile;   // "\\Xgame.Ini" in AppPath
     std::span<const TimeEntry> timeEntries;
     int defaultTime;            // the time limit a first start takes, one of timeEntries
     void (*registerForms)(Runtime& runtime);  // its windows and its rules text

@@ -133,8 +133,8 @@ void PrepareStandingControls(Form& window) {
     for (const char* big : {"lblMessage", "lblScoring"}) {
         if (Control* label = window.find(big)) {
             label->setFont("Arial", 24, true);
-            label->setAlignment(2);
-            label->setForeColor(255);
+            label->setAlignment(Align::Center);
+            label->setForeColor(Colour::Red);
             label->setBackStyle(0);
             label->setVisible(false);
         }
@@ -142,9 +142,9 @@ void PrepareStandingControls(Form& window) {
     window.c("lblProductName").setFont("Arial", 24, true);
     window.c("lblCompanyProduct").setFont("Arial", 12, true);
     for (const char* centred : {"lblCompanyProduct", "lblProductName", "lblCurrentScore", "lblCurrentRound"})
-        if (Control* label = window.find(centred)) label->setAlignment(2);
-    if (Control* score = window.find("lblCurrentScore")) score->setForeColor(0xFF0000);
-    window.c("Surface").setBackColor(0);
+        if (Control* label = window.find(centred)) label->setAlignment(Align::Center);
+    if (Control* score = window.find("lblCurrentScore")) score->setForeColor(Colour::Blue);
+    window.c("Surface").setBackColor(Colour::Black);
     Control& pause = window.c("cmdPause");
     pause.setEnabled(false);
     pause.setToolTipText("Pauses the current game");
@@ -161,7 +161,7 @@ void SetTimer(Form& window, const std::string& name, int interval, bool enabled)
 }
 
 void BeginFormLoad(Form& window, const GameInfo& game, int16_t deckDesign) {
-    window.setMousePointer(11);
+    window.setMousePointer(Pointer::Hourglass);
     window.c("Timer4").setEnabled(true);
     window.c("Timer1").setEnabled(false);
     TimeLimit = static_cast<int16_t>(game.defaultTime);
@@ -278,7 +278,7 @@ void ShowTimesUp(Form& window) {
 
 void BlinkLabel(Control& label, int times, int ms) {
     for (int i = 0; i < times; ++i) {
-        label.setForeColor(label.foreColor() == 255 ? 0 : 255);
+        label.setForeColor(label.foreColor() == Colour::Red ? Colour::Black : Colour::Red);
         Runtime::current().refresh();
         Sleep(ms);
     }
@@ -326,7 +326,7 @@ std::string CloseQuestion() {
 }
 
 void LeaveGameWindow(Form& window, const std::string& settingsFile, const SettingsLayout& settings) {
-    window.setMousePointer(11);
+    window.setMousePointer(Pointer::Hourglass);
     WriteSettingsINI(settingsFile, settings);
     window.c("Timer1").setEnabled(false);
     GameInProgress = false;
@@ -444,7 +444,7 @@ void CompleteFormLoad(Form& window, const std::string& tableName, const std::str
     CentreOnScreen(window);
     InitTimeDial(window);
     ShowHighScore(tableName, window, defaultScore);
-    window.setMousePointer(0);
+    window.setMousePointer(Pointer::Default);
 }
 
 void BindSharedHandlers(Form& window, SplashAnimation& splash, const SharedHandlerPoints& points) {
@@ -595,7 +595,7 @@ bool StopOnRunTimeError(Form& window, const RuntimeError& error) {
     ShowRunTimeError(error);
     if (!window.loaded()) return false;
     if (Control* scoring = window.find("lblScoring")) scoring->setVisible(false);
-    if (Control* score = window.find("lblCurrentScore")) score->setForeColor(0xFF0000);
+    if (Control* score = window.find("lblCurrentScore")) score->setForeColor(Colour::Blue);
     return true;
 }
 

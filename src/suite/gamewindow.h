@@ -161,7 +161,7 @@ void AdvanceRoundClock(Form& window);
 void ShowTimeWarnings(Form& window);
 // lblMessage = "Times Up!", shown; panel 2 = "Time has expired!".
 void ShowTimesUp(Form& window);
-// `times` blinks of a label between red (255) and black: a label of any other
+// `times` blinks of a label between red and black: a label of any other
 // colour turns red first. Each blink repaints and sleeps `ms` (blocking).
 void BlinkLabel(Control& label, int times, int ms);
 

@@ -78,7 +78,7 @@ public:
     int windowState() const { return windowState_; }
     void setWindowState(int state);        // raises Resize when shown
     int mousePointer() const { return mousePointer_; }
-    void setMousePointer(int v);           // 0 default, 11 hourglass, 99 custom
+    void setMousePointer(int v);           // a Pointer
     int mouseIcon() const { return mouseIcon_; }
     void setMouseIcon(int catalogueIndex);
     int backColor() const { return backColor_; }

@@ -147,7 +147,7 @@ SettingsLayout frmTestGame::SettingsSections() {
 }
 
 void frmTestGame::Form_Load() {
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     c("Timer4").setEnabled(true);
     c("Timer1").setEnabled(false);
     TimeLimit = 60;
@@ -167,7 +167,7 @@ void frmTestGame::Form_Load() {
     CentreOnScreen(*this);
     InitTimeDial(*this);
     ShowHighScore(kTable, *this, kDefaultScore);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 void frmTestGame::Form_QueryUnload(EventArgs& args) {
@@ -267,7 +267,7 @@ void frmTestGame::cmdTakeScore_Click() {
 void frmTestGame::TakeScore() {
     TakingScore = true;
     c("Timer1").setEnabled(false);
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     if (PlayMusic) StopMusic();
     for (const char* name : {"cmdTakeScore", "cmdPause", "cmdPlay", "cmdExit"}) c(name).setEnabled(false);
     ShowCards(false);
@@ -280,7 +280,7 @@ void frmTestGame::TakeScore() {
                {[this](bool v) { ShowCards(v); }, [this](bool v, bool s) { ShowControls(v, s); }, true});
     if (!loaded()) return;
     Control& message = c("lblMessage");
-    message.setForeColor(255);
+    message.setForeColor(Colour::Red);
     message.setCaption(kGameOver);
     message.setVisible(true);
     runtime().refresh();
@@ -291,7 +291,7 @@ void frmTestGame::TakeScore() {
     c("cmdExit").setEnabled(true);
     c("cmdPlay").setToolTipText(kStartsTip);
     ElapsedSeconds = 0;
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 void frmTestGame::EndGame() {

@@ -158,32 +158,32 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : GameForm(runtime, kGame, kDesignW
 
     Control& total = c("lblTotalScore");
     total.setFont("Arial", 12, true);
-    total.setAlignment(2);
-    total.setForeColor(0xFF0000);
+    total.setAlignment(Align::Center);
+    total.setForeColor(Colour::Blue);
     c("lblRound").setCaption("Round: 1");
     for (int i = 0; i < kColumns; ++i) {
         Control& columnTotal = c("ColumnTotal", i);
-        columnTotal.setAlignment(2);
+        columnTotal.setAlignment(Align::Center);
         columnTotal.setFontBold(true);
-        columnTotal.setBackColor(0xFFFFFF);
-        c("ColumnSoft", i).setAlignment(2);
-        c("ColumnSoft", i).setForeColor(255);
+        columnTotal.setBackColor(Colour::White);
+        c("ColumnSoft", i).setAlignment(Align::Center);
+        c("ColumnSoft", i).setForeColor(Colour::Red);
         c("ColumnSoft", i).setVisible(false);
         for (int slot = 0; slot < kSlots; ++slot) ColumnImage(i, slot).setVisible(false);
     }
     for (const char* big : {"lblBust", "ScoringLabelInfo"}) {
         Control& label = c(big);
         label.setFont("Arial", 24, true);
-        label.setAlignment(2);
-        label.setForeColor(255);
+        label.setAlignment(Align::Center);
+        label.setForeColor(Colour::Red);
         label.setBackStyle(0);
         label.setVisible(false);
         label.zOrderFront();
     }
     Control& gimme = c("lblFiveCards");
     gimme.setFont("Arial", 10, true);
-    gimme.setAlignment(2);
-    gimme.setForeColor(255);
+    gimme.setAlignment(Align::Center);
+    gimme.setForeColor(Colour::Red);
     gimme.setBackStyle(0);
     gimme.setVisible(false);
     gimme.zOrderFront();
@@ -196,18 +196,18 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : GameForm(runtime, kGame, kDesignW
     Control& info = c("ScoringLabelInfo");
     info.setFontSize(18);
     info.setBackStyle(1);
-    info.setBackColor(0xC0C0C0);
+    info.setBackColor(Colour::Grey);
     info.zOrderFront();
     // The frame's labels stand in blue; the count of a round turns them red.
     for (const char* name : {"lblTwentyOnes", "lbl21s", "lbl21Bonus", "lblBonus", "lblCardsUsed", "lblCardsUsedCount",
                              "lblTwentyoneTime", "lblRoundScore"})
-        c(name).setForeColor(0xFF0000);
+        c(name).setForeColor(Colour::Blue);
     for (const char* name : {"lblRoundScore", "lblRoundScoreCount"}) {
-        c(name).setAlignment(2);
+        c(name).setAlignment(Align::Center);
         c(name).setVisible(false);
     }
     c("lblRoundScoreCount").setFont("Arial", 12, true);
-    c("lblRoundScoreCount").setForeColor(0xFF0000);
+    c("lblRoundScoreCount").setForeColor(Colour::Blue);
     c("ProgressBar1").setRange(0, 100);
     c("NextCardPicture").setBorderStyle(1);
     ShowGameBoard(false);

@@ -92,16 +92,16 @@ frmDuopick::frmDuopick(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth
         c("PlayCard", i).setBorderStyle(1);
         Control& selection = c("FieldSelectionRectangle", i);
         selection.setVisible(false);
-        selection.setBorderColor(255);
+        selection.setBorderColor(Colour::Red);
         selection.setBorderStyle(1);
         selection.setBackStyle(0);
     }
     c("CardStackPicture").setVisible(false);
     for (const char* count : {"lblCards", "lblScorePairs", "lblScoreRuns"}) {
         c(count).setFont("Arial", 12, true);
-        c(count).setForeColor(0xFF0000);
+        c(count).setForeColor(Colour::Blue);
     }
-    c("lblCards").setAlignment(2);
+    c("lblCards").setAlignment(Align::Center);
     for (const char* name : {"lblCardCount", "lblCards", "lblPairs", "lblScorePairs", "lblRuns", "lblScoreRuns"})
         c(name).setVisible(false);
     c("cmdExit").setToolTipText("Exits the game");

@@ -123,7 +123,7 @@ void frmDuopick::Timer1_Timer() {
     AdvanceRoundClock(*this);
     ShowTimeWarnings(*this);
     if (ElapsedSeconds != TimeLimit) return;
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     c("Timer1").setEnabled(false);
     ShowCards(false);
     // A half-made pair counts for nothing.
@@ -133,7 +133,7 @@ void frmDuopick::Timer1_Timer() {
     raise(&c("cmdTakeScore"), Ev::Click);
     if (!loaded()) return;
     if (c("lblMessage").caption() != kGameOver) c("lblMessage").setVisible(false);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // ---- The end of a round ---------------------------------------------------------------
@@ -162,13 +162,13 @@ void frmDuopick::TakeScore() {
     ClearSelectionRectangles();
     const char* const buttons[] = {"cmdTakeScore", "cmdPause", "cmdExit", "cmdPlay"};
     for (const char* name : buttons) c(name).setEnabled(false);
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     ShowCards(false);
     if (PlayMusic) StopMusic();
 
     CurrentRound += 1;
     Control& message = c("lblMessage");
-    message.setForeColor(255);
+    message.setForeColor(Colour::Red);
     const Scoring scoring{PairsBonus, RunsBonus, TimeBonus, BonusScore, CompletionBonus};
     for (const Award& award : RoundAwards(scoring, RoundCompleted, TimeLimit - ElapsedSeconds, RunsCount, PairsCount)) {
         if (award.kind == Award::Kind::Time)
@@ -180,7 +180,7 @@ void frmDuopick::TakeScore() {
     switch (NextStep(CurrentRound, CurrentScore, BonusScore)) {
         case AfterRound::RoundTwo:
             for (const char* name : buttons) c(name).setEnabled(true);
-            message.setForeColor(255);
+            message.setForeColor(Colour::Red);
             message.setVisible(true);
             message.setCaption("Prepare for Round Two!");
             BlinkLabel(message, 11, 250);
@@ -202,16 +202,16 @@ void frmDuopick::TakeScore() {
     }
     if (!loaded()) return;
     c("lblScoring").setVisible(false);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 void frmDuopick::GameOver() {
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     FinishGame(*this, kTable, kGameOverScore,
                {[this](bool v) { ShowCards(v); }, [this](bool v, bool s) { ShowControls(v, s); }});
     if (!loaded()) return;
     Control& message = c("lblMessage");
-    message.setForeColor(255);
+    message.setForeColor(Colour::Red);
     c("cmdPlay").setToolTipText(kStartsTip);
     c("cmdTakeScore").setEnabled(false);
     for (const char* name : {"cmdPlay", "cmdExit", "mnuTime", "mnuCustom"}) c(name).setEnabled(true);
@@ -221,7 +221,7 @@ void frmDuopick::GameOver() {
     Sleep(2000);
     // "Game Over" stays on show over the splash panel until the next game.
     ShowSplash(*this, true);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 void frmDuopick::ShowScore() { c("lblCurrentScore").setCaption(FormatScore(CurrentScore)); }

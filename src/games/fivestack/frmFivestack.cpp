@@ -156,11 +156,11 @@ frmFivestack::frmFivestack(Runtime& runtime) : GameForm(runtime, kGame, kDesignW
         for (int slot = 0; slot < kSlots; ++slot) c(kColumnImages[i], slot).setVisible(false);
         for (Control* control : {&c("ColumnTotal", i), &c("ColumnSoft", i), &c(kColumnLines[i]), &c("cmdHit", i)})
             control->setVisible(false);
-        c("ColumnTotal", i).setAlignment(2);
-        c("ColumnTotal", i).setBackColor(0xFFFFFF);
+        c("ColumnTotal", i).setAlignment(Align::Center);
+        c("ColumnTotal", i).setBackColor(Colour::White);
         c("ColumnTotal", i).setFont("Arial", 12, true);
-        c("ColumnSoft", i).setAlignment(2);
-        c("ColumnSoft", i).setForeColor(255);
+        c("ColumnSoft", i).setAlignment(Align::Center);
+        c("ColumnSoft", i).setForeColor(Colour::Red);
         c("ColumnSoft", i).setBackStyle(0);
     }
     for (const char* name : {"PlayCardPicture", "NextCardPicture", "cmdPass", "lblTimeBonus", "lblCurrentRoundScore",
@@ -174,13 +174,13 @@ frmFivestack::frmFivestack(Runtime& runtime) : GameForm(runtime, kGame, kDesignW
     c("lblTimeBonus").setFont("Arial", 12, true);
     c("lblTimeBonus").setBackStyle(0);
     c("lblTotalScore").setFont("Arial", 12, true);
-    c("lblTotalScore").setAlignment(2);
-    c("lblTotalScore").setForeColor(0xFF0000);
-    c("lblCurrentRoundScore").setAlignment(2);
+    c("lblTotalScore").setAlignment(Align::Center);
+    c("lblTotalScore").setForeColor(Colour::Blue);
+    c("lblCurrentRoundScore").setAlignment(Align::Center);
     c("lblCurrentTotal").setFont("Arial", 12, true);
-    c("lblCurrentTotal").setAlignment(2);
-    c("lblCurrentTotal").setBackColor(0xFFFFFF);
-    c("lblCurrentTotal").setForeColor(255);
+    c("lblCurrentTotal").setAlignment(Align::Center);
+    c("lblCurrentTotal").setBackColor(Colour::White);
+    c("lblCurrentTotal").setForeColor(Colour::Red);
     for (const char* big : {"ScoringLabel", "ScoringLabelRoundTotal"}) {
         c(big).setFont("Arial", 18, true);
         c(big).setBackStyle(0);
@@ -188,10 +188,10 @@ frmFivestack::frmFivestack(Runtime& runtime) : GameForm(runtime, kGame, kDesignW
     c("ScoringLabelInfo").setFont("Arial", 10, true);
     c("ScoringLabelInfo").setBackStyle(0);
     c("ScoringLabelOutline").setBorderStyle(1);
-    c("ScoringLabelOutline").setBorderColor(0xFF0000);
+    c("ScoringLabelOutline").setBorderColor(Colour::Blue);
     for (const CardTotalRow& row : kCardTotalRows) {
         c(row.valueLabel).setCaption(NumText(row.value));
-        c(row.valueLabel).setAlignment(1);
+        c(row.valueLabel).setAlignment(Align::Right);
     }
     c("PlayCardPicture").setBorderStyle(0);
     for (const char* name : {"ScoringLabelOutline", "ScoringLabelRoundTotal", "ScoringLabel", "ScoringLabelInfo"})

@@ -114,14 +114,14 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : GameForm(runtime, kGame, kDesignWid
         c(name).setVisible(false);
     Control& scoring = c("ScoringLabel");
     scoring.setFont("MS Sans Serif", 18, true);
-    scoring.setAlignment(2);
-    scoring.setForeColor(255);
+    scoring.setAlignment(Align::Center);
+    scoring.setForeColor(Colour::Red);
     scoring.setBackStyle(0);
     scoring.setVisible(false);
     c("ScoringLabelOutline").setVisible(false);
     c("ScoringLabelOutline").setBorderStyle(1);
     c("lblTimeBonus").setFont("MS Sans Serif", 12, true);
-    c("lblTimeBonus").setForeColor(0xFFFFFF);
+    c("lblTimeBonus").setForeColor(Colour::White);
     c("lblTimeBonus").setBackStyle(0);
     c("lblCurrentScore").setFont("MS Sans Serif", 12, true);
     for (int i = 0; i < kCells; ++i) c("PlayCards", i).setVisible(false);

@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <string>
 
+#include "window/control.h"
+
 namespace ch::handgrid {
 
 constexpr int kCells = 25;          // PlayedCards(0..24), row major
@@ -34,7 +36,7 @@ constexpr int16_t kDefaultOverWrites = 3;
 
 // Label colours: a hand name in blue, "Nothing" in the system's button text
 // colour (the platform's 0x80000012).
-constexpr int kHandColour = 0xFF0000;
+constexpr int kHandColour = Colour::Blue;
 constexpr int kButtonTextColour = static_cast<int>(0x80000012u);
 int HandColour(const std::string& handName);
 

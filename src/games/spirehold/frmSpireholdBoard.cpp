@@ -122,7 +122,7 @@ void frmSpirehold::lblCurrentRun_Change() {
 // top of its 16-bit range StackIndex can't be raised, and stays.
 void frmSpirehold::CardStackPicture_Click() {
     if (TakingScore) return;
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     RunValue = 0;
     CurrentRun = 0;
     c("lblCurrentRun").setCaption("Current Run: " + NumText(CurrentRun));
@@ -137,7 +137,7 @@ void frmSpirehold::CardStackPicture_Click() {
         Wave("\\Chord.wav");
     else
         c("CardStackPicture").setPicture(ImageList2().indexOf(stage));
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 void frmSpirehold::UpCardPicture_Click() { Wave("\\Chord.wav"); }

@@ -16,7 +16,6 @@ using namespace spirehold;
 
 namespace {
 const char* const kEndsCurrentTip = "Ends the current game";
-constexpr int kRed = 255;
 }  // namespace
 
 // ---- Play and End Game ------------------------------------------------------------
@@ -113,7 +112,7 @@ void frmSpirehold::Timer1_Timer() {
     AdvanceRoundClock(*this);
     ShowTimeWarnings(*this);
     if (ElapsedSeconds != TimeLimit) return;
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     c("Timer1").setEnabled(false);
     ShowCards(false, false);
     ShowTimesUp(*this);
@@ -121,7 +120,7 @@ void frmSpirehold::Timer1_Timer() {
     cmdTakeScore_Click();
     if (!loaded()) return;
     if (c("lblMessage").caption() != kGameOver) c("lblMessage").setVisible(false);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // ---- The end of a round ------------------------------------------------------------------
@@ -146,12 +145,12 @@ void frmSpirehold::EndOnError(const RuntimeError& error) {
 void frmSpirehold::TakeScore() {
     TakingScore = true;
     for (const char* name : {"cmdTakeScore", "cmdPlay", "cmdPause", "cmdExit"}) c(name).setEnabled(false);
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     ShowCards(false, false);
     if (PlayMusic) StopMusic();
     CurrentRound += 1;
     Control& message = c("lblMessage");
-    message.setForeColor(kRed);
+    message.setForeColor(Colour::Red);
     message.setVisible(true);
 
     if (TimeLimit - ElapsedSeconds > 0) {
@@ -168,7 +167,7 @@ void frmSpirehold::TakeScore() {
     HighRunScore();
 
     if (CurrentRound == 2) {
-        message.setForeColor(kRed);
+        message.setForeColor(Colour::Red);
         message.setVisible(true);
         message.setCaption("Prepare for Round Two!");
         BlinkLabel(message, 11, 250);
@@ -185,23 +184,23 @@ void frmSpirehold::TakeScore() {
     }
     if (!loaded()) return;
     c("lblScoring").setVisible(false);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 void frmSpirehold::GameOver() {
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     FinishGame(*this, kTable, kDefaultScore,
                {[this](bool v) { ShowCards(v); }, [this](bool v, bool s) { ShowControls(v, s); }});
     if (!loaded()) return;
     HideTowerLabels();
     Control& message = c("lblMessage");
-    message.setForeColor(kRed);
+    message.setForeColor(Colour::Red);
     c("cmdPlay").setToolTipText(kStartsTip);
     message.setCaption(kGameOver);
     runtime().refresh();
     Sleep(2000);
     ShowSplash(*this, true);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
     c("cmdPlay").setEnabled(true);
     c("cmdExit").setEnabled(true);
 }

@@ -146,14 +146,14 @@ frmSumfall::frmSumfall(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth
     for (int i = 0; i < kFieldPlaces; ++i) {
         Control& card = c("FieldCardPicture", i);
         card.setVisible(false);
-        card.setMousePointer(99);
+        card.setMousePointer(Pointer::Custom);
         card.setBorderStyle(1);
         card.setToolTipText(NumText(kField[static_cast<size_t>(i)].points) + " points");
         c("FieldSelectionRectangle", i).setVisible(false);
         c("FieldSelectionRectangle", i).setBorderStyle(1);
     }
     for (const char* name : {"PlayCardPicture", "UpCardPicture"}) {
-        c(name).setMousePointer(99);
+        c(name).setMousePointer(Pointer::Custom);
         c(name).setVisible(false);
     }
     c("UpCardPicture").setToolTipText("100 points");
@@ -161,8 +161,8 @@ frmSumfall::frmSumfall(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth
     c("UpCardSelectionRectangle").setBorderStyle(1);
     c("lblCardCount").setVisible(false);
     for (const char* name : {"lblCurrentElevens", "lblCurrentTotal"}) {
-        c(name).setAlignment(2);
-        c(name).setForeColor(0xFF0000);
+        c(name).setAlignment(Align::Center);
+        c(name).setForeColor(Colour::Blue);
     }
     CardTotalVisible(false);
     // The messages stand over the field.
@@ -352,7 +352,7 @@ void frmSumfall::ShowScore() { c("lblCurrentScore").setCaption(FormatScore(Curre
 
 void frmSumfall::lblCurrentScore_Change() {
     CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle");
-    c("lblCurrentScore").setForeColor(CurrentScore < 0 ? 255 : 0xFF0000);
+    c("lblCurrentScore").setForeColor(CurrentScore < 0 ? Colour::Red : Colour::Blue);
 }
 
 // "Times Up!" and "Game Paused" stand at the piles, the rest over the field;

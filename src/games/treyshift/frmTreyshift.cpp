@@ -112,21 +112,21 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : GameForm(runtime, kGame, kDesignW
     SetGameTimers(*this, timers);
     c("cmdTakeScore").setToolTipText("Ends the round and awards points");
     for (int i = 0; i < kFieldSlots; ++i) {
-        c("PlayCardSelection", i).setBorderColor(255);
+        c("PlayCardSelection", i).setBorderColor(Colour::Red);
         c("PlayCardSelection", i).setBorderStyle(1);
     }
     for (int i = 0; i < 3; ++i) {
-        c("TempCardSelection", i).setBorderColor(0xFF0000);
+        c("TempCardSelection", i).setBorderColor(Colour::Blue);
         c("TempCardSelection", i).setBorderStyle(1);
     }
-    c("UpCardSelection").setBorderColor(255);
+    c("UpCardSelection").setBorderColor(Colour::Red);
     c("UpCardSelection").setBorderStyle(1);
-    for (const char* name : {"lblScoreTrips", "lblScoreRuns", "lblFieldCards"}) c(name).setAlignment(2);
-    for (const char* name : {"lblScoreTrips", "lblScoreRuns"}) c(name).setForeColor(0xFF0000);
+    for (const char* name : {"lblScoreTrips", "lblScoreRuns", "lblFieldCards"}) c(name).setAlignment(Align::Center);
+    for (const char* name : {"lblScoreTrips", "lblScoreRuns"}) c(name).setForeColor(Colour::Blue);
     Control& flush = c("lblFlush");
-    flush.setForeColor(255);
+    flush.setForeColor(Colour::Red);
     flush.setFont("MS Sans Serif", 8, true);
-    flush.setAlignment(2);
+    flush.setAlignment(Align::Center);
     flush.setVisible(false);
     c("ScoringLabelOutline").setVisible(false);
     c("ScoringLabelOutline").setBorderStyle(1);

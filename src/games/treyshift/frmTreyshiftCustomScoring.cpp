@@ -68,7 +68,7 @@ int32_t DefaultOf(ScoringField field) {
 frmTreyshiftCustom::frmTreyshiftCustom(Runtime& runtime) : Form(runtime, "frmTreyshiftCustom") {
     setSize(6600, 6180);
     add(Layout());
-    c("txtPenaltyValue").setForeColor(255);
+    c("txtPenaltyValue").setForeColor(Colour::Red);
     BindScoringDialog(
         *this, [this] { Form_Load(); }, [this] { cmdOK_Click(); }, [this] { cmdDefault_Click(); }, true);
     for (const ScoringFieldSpec& f : kScoringFields) SelectAllOnFocus(*this, f.textBox);

@@ -108,7 +108,7 @@ void frmTreyshift::Timer1_Timer() {
     AdvanceRoundClock(*this);
     ShowTimeWarnings(*this);
     if (ElapsedSeconds != TimeLimit) return;
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     c("Timer1").setEnabled(false);
     for (int i = 0; i < kUpSlots; ++i) c("UpCard", i).setVisible(false);
     for (const char* name : {"UpCardSelection", "CardStackPicture", "lblCardCount"}) c(name).setVisible(false);
@@ -124,7 +124,7 @@ void frmTreyshift::Timer1_Timer() {
     cmdTakeScore_Click();
     if (!loaded()) return;
     if (c("lblMessage").caption() != kGameOver) c("lblMessage").setVisible(false);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // One round end at a time, whatever order the waiting events are served in:
@@ -160,7 +160,7 @@ void frmTreyshift::EndOnError(const RuntimeError& error) {
     for (int i = 0; i < kFieldSlots; ++i) c("PlayCardSelection", i).setVisible(false);
     for (int i = 0; i < kTempSlots; ++i) c("TempCardSelection", i).setVisible(false);
     for (const char* name : {"lblMessage", "lblScoring", "ScoringLabelOutline"}) c(name).setVisible(false);
-    c("lblCurrentScore").setForeColor(0xFF0000);
+    c("lblCurrentScore").setForeColor(Colour::Blue);
     GameOver();
 }
 
@@ -171,9 +171,9 @@ void frmTreyshift::EndOnError(const RuntimeError& error) {
 void frmTreyshift::EndRound() {
     Control& scoring = c("lblScoring");
     Control& message = c("lblMessage");
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     c("Timer1").setEnabled(false);
-    scoring.setForeColor(0xFF0000);
+    scoring.setForeColor(Colour::Blue);
     if (PlayMusic) StopMusic();
     ShowControls(false, true);
 
@@ -214,7 +214,7 @@ void frmTreyshift::EndRound() {
         GameOver();
         return;
     }
-    scoring.setForeColor(255);
+    scoring.setForeColor(Colour::Red);
     CurrentRound += 1;
     scoring.setCaption(PrepareText(CurrentRound));
     CenterScoringLabel();
@@ -234,7 +234,7 @@ void frmTreyshift::EndRound() {
     c("lblRound").setCaption("Round: " + NumText(CurrentRound));
     c("lblTime").setCaption("Time: " + NumText(TimeLimit));
     if (PlayMusic) StartMusic();
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // The score goes to the table, the board goes, "Game Over" stands a second,
@@ -253,7 +253,7 @@ void frmTreyshift::GameOver() {
     ResetDial();
     c("cmdPlay").setToolTipText(kStartsTip);
     ShowCards(false);
-    scoring.setForeColor(0xFF0000);
+    scoring.setForeColor(Colour::Blue);
     scoring.setCaption(kGameOver);
     CenterScoringLabel();
     scoring.setVisible(true);
@@ -264,7 +264,7 @@ void frmTreyshift::GameOver() {
     c("ScoringLabelOutline").setVisible(false);
     ShowSplash(*this, true);
     runtime().refresh();
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // After the deck is used up every card left in the field and in storage
