@@ -29,4 +29,14 @@ void GameForm::Wave(const char* name) const {
 
 bool GameForm::ResizeToPlace() { return ch::ResizeToPlace(*this, designWidth_, designHeight_); }
 
+void GameForm::ReadSettings() { ReadSettingsINI(game_.settingsFile, SettingsSections()); }
+
+void GameForm::ConfirmClose(EventArgs& args) {
+    ConfirmCloseGameWindow(*this, args, game_.settingsFile, SettingsSections());
+}
+
+void GameForm::ConfirmClose(EventArgs& args, bool pausedFirst, const std::function<void()>& pauseHandler) {
+    ConfirmCloseGameWindow(*this, args, pausedFirst, pauseHandler, game_.settingsFile, SettingsSections());
+}
+
 }  // namespace ch

@@ -6,9 +6,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include "suite/gameinfo.h"
 #include "suite/gamewindow.h"
+#include "suite/settings.h"
 #include "window/form.h"
 
 namespace ch {
@@ -38,6 +40,15 @@ protected:
     void Wave(const char* name) const;
     // Form_Resize's guard at the design size (ResizeToPlace).
     bool ResizeToPlace();
+    // The sections of the game's settings file, in the file's order.
+    virtual SettingsLayout SettingsSections() = 0;
+    // Form_Load: the game's settings file read through SettingsSections.
+    void ReadSettings();
+    // Form_QueryUnload: the close question, then the settings file written
+    // (ConfirmCloseGameWindow); a game that `pausedFirst` goes on after a No
+    // through `pauseHandler`.
+    void ConfirmClose(EventArgs& args);
+    void ConfirmClose(EventArgs& args, bool pausedFirst, const std::function<void()>& pauseHandler);
 
     SplashAnimation Splash;
 

@@ -317,13 +317,13 @@ void frmBlackrush::Form_Load() {
     GameInProgress = false;
     ShowWelcome(*this);
     c("StatusBar1").setPanel(1, "Welcome to " + AppTitle + "!");
-    ReadSettingsINI(kSettingsFileName, SettingsSections());
+    ReadSettings();
     CompleteLoad();
     CheckForCustom();
 }
 
 void frmBlackrush::Form_QueryUnload(EventArgs& args) {
-    ConfirmCloseGameWindow(*this, args, kSettingsFileName, SettingsSections());
+    ConfirmClose(args);
 }
 
 // The cards keep their size: a resize centres the board in the window and

@@ -49,7 +49,7 @@ private:
     void mnuDeck_Click(int design);
     void mnuClear_Click();
     void mnuTakeScore_Click();
-    SettingsLayout SettingsSections();
+    SettingsLayout SettingsSections() override;
 
     // ---- The board (frmBlackrushBoard.cpp) ----
     void cmdHit_Click(int index);

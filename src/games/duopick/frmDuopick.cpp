@@ -179,14 +179,14 @@ void frmDuopick::Form_Load() {
     BonusScore = kDefaultBonusScore;
     CompletionBonus = kDefaultCompletionBonus;
     ShowWelcome(*this);
-    ReadSettingsINI(kSettingsFile, SettingsSections());
+    ReadSettings();
     CheckForCustom();
     ShowBonusLabels();
     CompleteLoad();
 }
 
 // The clock runs on while the question stands.
-void frmDuopick::Form_QueryUnload(EventArgs& args) { ConfirmCloseGameWindow(*this, args, kSettingsFile, SettingsSections()); }
+void frmDuopick::Form_QueryUnload(EventArgs& args) { ConfirmClose(args); }
 
 void frmDuopick::CheckForCustom() {
     CustomScoringInUse = IsCustom({PairsBonus, RunsBonus, TimeBonus, BonusScore, CompletionBonus});

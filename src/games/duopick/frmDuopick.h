@@ -46,7 +46,7 @@ private:
     void Form_Resize();
     void Form_QueryUnload(EventArgs& args);
     void PlaceBoard();
-    SettingsLayout SettingsSections();
+    SettingsLayout SettingsSections() override;
     void mnuTime_Click(const char* menu);
     void mnuDeck_Click(int design);
     void mnuClear_Click();

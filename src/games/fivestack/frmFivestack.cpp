@@ -285,7 +285,7 @@ void frmFivestack::Form_Load() {
     ShowWelcome(*this);
     c("StatusBar1").setPanel(1, "Welcome to " + AppTitle + "   ");
     raise(&c("mnu60"), Ev::Click);
-    ReadSettingsINI(kSettingsFile, SettingsSections());
+    ReadSettings();
     TimeBonusDecay = fivestack::TimeBonusDecay(TimeBonusMax, TimeBonusMin, TimeLimit);
     CompleteLoad();
     CheckForCustom();
@@ -299,7 +299,7 @@ void frmFivestack::Form_QueryUnload(EventArgs& args) {
     const std::string& info = c("ScoringLabelInfo").caption();
     const bool pauseFirst = GameInProgress && c("cmdPause").enabled() && info != kGamePaused && info != kGameOver;
     if (pauseFirst) cmdPause_Click();
-    ConfirmCloseGameWindow(*this, args, pauseFirst, [this] { cmdPause_Click(); }, kSettingsFile, SettingsSections());
+    ConfirmClose(args, pauseFirst, [this] { cmdPause_Click(); });
 }
 
 // The cards keep their size: a resize only moves the board to the middle of

@@ -52,7 +52,7 @@ private:
     void mnuDeck_Click(int design);
     void mnuClear_Click();
     void mnuCustom_Click();
-    SettingsLayout SettingsSections();
+    SettingsLayout SettingsSections() override;
     void PlaceBoard();
 
     // The board (frmFivestackBoard.cpp).

@@ -220,7 +220,7 @@ void frmHandgrid::Form_Load() {
     OverWritesAllowed = kDefaultOverWrites;
     HandSoundPlayed = false;
     ShowWelcome(*this);
-    ReadSettingsINI(kSettingsFile, SettingsSections());
+    ReadSettings();
     CheckForCustom();
     ShowOverWrites();
     c("lblTimeBonus").setCaption(NumText(TimeLimit));
@@ -230,7 +230,7 @@ void frmHandgrid::Form_Load() {
 
 // The clock runs on while the question stands.
 void frmHandgrid::Form_QueryUnload(EventArgs& args) {
-    ConfirmCloseGameWindow(*this, args, kSettingsFile, SettingsSections());
+    ConfirmClose(args);
 }
 
 void frmHandgrid::CheckForCustom() {

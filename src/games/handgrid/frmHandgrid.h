@@ -47,7 +47,7 @@ private:
     void PlaceBoard();
     void mnuTime_Click(const char* menu);
     void mnuDeck_Click(int design);
-    SettingsLayout SettingsSections();
+    SettingsLayout SettingsSections() override;
 
     // frmHandgridBoard.cpp: the grid.
     bool Deal();

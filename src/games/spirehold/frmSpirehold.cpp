@@ -223,13 +223,13 @@ void frmSpirehold::Form_Load() {
     TowerBonus = kDefaultTowerBonus;
     TimeBonus = kDefaultTimeBonus;
     ShowWelcome(*this);
-    ReadSettingsINI(kSettingsFile, SettingsSections());
+    ReadSettings();
     CheckForCustom();
     CompleteLoad();
 }
 
 void frmSpirehold::Form_QueryUnload(EventArgs& args) {
-    ConfirmCloseGameWindow(*this, args, kSettingsFile, SettingsSections());
+    ConfirmClose(args);
 }
 
 void frmSpirehold::CheckForCustom() {

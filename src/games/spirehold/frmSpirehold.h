@@ -80,7 +80,7 @@ private:
     void ShowPicture(const char* name, int index, const std::string& code);
     void PlaceBoard();
     bool GameRunning() const;
-    SettingsLayout SettingsSections();
+    SettingsLayout SettingsSections() override;
 
     // The board.
     std::vector<std::string> DeckCards = std::vector<std::string>(spirehold::kDeckCardsSize);

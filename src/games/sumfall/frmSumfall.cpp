@@ -291,7 +291,7 @@ void frmSumfall::Form_Load() {
     c(kSelectionColours[kDefaultSelectionColour].menu).setChecked(true);
     c("lblElevens").setCaption(CardGoalWord(CardGoal));
     ShowWelcome(*this);
-    ReadSettingsINI(kSettingsFile, SettingsSections());
+    ReadSettings();
     CompleteLoad();
 }
 
@@ -307,7 +307,7 @@ void frmSumfall::Form_QueryUnload(EventArgs& args) {
     const bool pauseFirst = GameInProgress && c("cmdPause").caption() == kPauseCaption &&
                             c("lblMessage").caption() != kGameOver;
     if (pauseFirst) cmdPause_Click();
-    ConfirmCloseGameWindow(*this, args, pauseFirst, [this] { cmdPause_Click(); }, kSettingsFile, SettingsSections());
+    ConfirmClose(args, pauseFirst, [this] { cmdPause_Click(); });
 }
 
 // The cards keep their size: a resize only places the board around the

@@ -109,7 +109,7 @@ private:
     void ClearColorCheck();
     void ShowScore();
     void PlaceBoard();
-    SettingsLayout SettingsSections();
+    SettingsLayout SettingsSections() override;
 
     // The picture of a card code; a code with no picture (an empty slot of a
     // damaged saved game) is an error, as the catalogue's lookup always was.

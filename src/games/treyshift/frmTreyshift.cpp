@@ -232,14 +232,14 @@ void frmTreyshift::Form_Load() {
     TimeBonus = kDefaults.TimeBonus;
     BonusScore = kDefaults.BonusScore;
     ShowWelcome(*this);
-    ReadSettingsINI(kSettingsFile, SettingsSections());
+    ReadSettings();
     CheckForCustom();
     CompleteLoad();
 }
 
 // The clock runs on while the question stands.
 void frmTreyshift::Form_QueryUnload(EventArgs& args) {
-    ConfirmCloseGameWindow(*this, args, false, nullptr, kSettingsFile, SettingsSections());
+    ConfirmClose(args, false, nullptr);
 }
 
 // The cards keep their size: a resize keeps the board in the middle of the

@@ -47,7 +47,7 @@ private:
     void mnuTime_Click(const char* menu);
     void mnuDeck_Click(int design);
     void mnuClear_Click();
-    SettingsLayout SettingsSections();
+    SettingsLayout SettingsSections() override;
 
     // ---- frmTreyshiftBoard.cpp
     void UpCard_Click(int index);
