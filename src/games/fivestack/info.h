@@ -31,7 +31,7 @@ inline constexpr GameInfo kGame = {
     .defaultScore = kDefaultTopScore,
     .settingsFile = kSettingsFile,
     .timeEntries = kTimeEntries,
-    .defaultTime = 60,
+    .defaultTime = kDefaultTimeLimit,
     .registerForms = RegisterFivestack,
     .bonusSection = "[BonusScore]",
 };

@@ -3,6 +3,7 @@
 // tables, its settings file and its time limits.
 #pragma once
 
+#include "games/handgrid/modHandgrid.h"
 #include "suite/gameinfo.h"
 
 namespace ch {
@@ -32,7 +33,7 @@ inline constexpr GameInfo kGame = {
     .defaultScore = kDefaultScore,
     .settingsFile = kSettingsFile,
     .timeEntries = kTimeEntries,
-    .defaultTime = 75,
+    .defaultTime = kDefaultTimeLimit,
     .registerForms = RegisterHandgrid,
     .bonusSection = "[Bonus Score]",
 };

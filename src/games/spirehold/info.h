@@ -3,6 +3,7 @@
 // tables, its settings file and its time limits.
 #pragma once
 
+#include "games/spirehold/modSpirehold.h"
 #include "suite/gameinfo.h"
 
 namespace ch {
@@ -33,7 +34,7 @@ inline constexpr GameInfo kGame = {
     .defaultScore = kDefaultScore,
     .settingsFile = kSettingsFile,
     .timeEntries = kTimeEntries,
-    .defaultTime = 45,
+    .defaultTime = kDefaultTimeLimit,
     .registerForms = RegisterSpirehold,
     .bonusSection = "[Bonus Score]",
     .highScoreCaption = "Current High Score: ",

@@ -31,7 +31,7 @@ inline constexpr GameInfo kGame = {
     .defaultScore = kTableDefault,
     .settingsFile = kSettingsFile,
     .timeEntries = kTimeEntries,
-    .defaultTime = 120,
+    .defaultTime = kDefaultTimeLimit,
     .registerForms = RegisterTreyshift,
     .bonusSection = "[Bonus Score]",
 };
