@@ -240,8 +240,8 @@ int ListGames() {
     ch::HeadlessPlatform platform;
     ch::Runtime runtime(platform);
     ch::RegisterGameForms(runtime);
-    for (const ch::GameChoice& game : ch::kGameChoices)
-        if (runtime.isKnownForm(game.form)) std::printf("%s %s\n", game.button, game.form);
+    for (const ch::GameInfo* game : ch::RegisteredGames())
+        if (game->button) std::printf("%s %s\n", game->button, game->form);
     return 0;
 }
 

@@ -29,9 +29,9 @@ inline int32_t TimeBonus = 0;      // points per second left
 inline bool CustomScoringInUse = false;
 inline std::string PlayerName;
 inline int64_t GameStartTime = 0;  // wall clock when the game window was loaded
-// Sumfall's card goal (10 to 15): part of its table names and of its Hall of
-// Fame caption. The Sumfall window keeps it here so that the shared windows
-// can read it without knowing the game.
+// The card goal of a game that keeps tables per goal (GameInfo::cardGoals):
+// part of its table names and of its Hall of Fame caption. The game window
+// keeps it here so that the shared windows can read it without knowing the game.
 inline int16_t CardGoal = 11;
 
 // The round dial (see dial.h): centre and radius on the picture surface
@@ -49,7 +49,7 @@ void ResetShared();
 // Lets the driver read the shared variables by name.
 void ExposeShared(Runtime& runtime);
 
-// The path of a file named as the games name it ("\Sumfall.Ini") in AppPath.
+// The path of a file named as the games name it ("\X.Ini") in AppPath.
 std::string AppFile(const std::string& name);
 
 }  // namespace ch

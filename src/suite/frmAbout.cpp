@@ -27,8 +27,8 @@ frmAbout::frmAbout(Runtime& runtime) : Form(runtime, "frmAbout") {
     add(kLayout);
     c("cmdCoolDude").setDefault(true);
     c("cmdCoolDude").setCancel(true);
-    c("lblInfo").setAlignment(2);
-    c("lblStats").setAlignment(2);
+    c("lblInfo").setAlignment(Align::Center);
+    c("lblStats").setAlignment(Align::Center);
     on(Ev::Load, [this](EventArgs&) { Form_Load(); });
     on("cmdCoolDude", Ev::Click, [this](EventArgs&) { cmdCoolDude_Click(); });
 }

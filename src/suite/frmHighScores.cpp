@@ -6,6 +6,7 @@
 #include "suite/gamewindow.h"
 #include "suite/common.h"
 #include "suite/files.h"
+#include "suite/gameinfo.h"
 #include "suite/highscores.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -37,8 +38,8 @@ frmHighScores::frmHighScores(Runtime& runtime) : Form(runtime, "frmHighScores") 
     setSize(5520, 5040);
     const std::vector<ControlSpec> layout = Layout();
     add(layout);
-    for (int i = 1; i < 20; i += 2) c("ScoreList", i).setAlignment(1);
-    c("lblHiScoreInfo").setAlignment(2);
+    for (int i = 1; i < 20; i += 2) c("ScoreList", i).setAlignment(Align::Right);
+    c("lblHiScoreInfo").setAlignment(Align::Center);
     c("cmdDone").setDefault(true);
     c("cmdDone").setCancel(true);
     on(Ev::Load, [this](EventArgs&) { Form_Load(); });
@@ -51,19 +52,18 @@ void frmHighScores::Form_Load() {
     setCaption(AppTitle + " Hall of Fame (" + NumText(TimeLimit) + " secs)");
     ReadTableOfTitle();
     Control& info = c("lblHiScoreInfo");
-    if (AppTitle == "Sumfall!")
+    const GameInfo* game = GameByTitle(AppTitle);
+    if (game && !game->cardGoals.empty())
         info.setCaption("High Scores for Card Goal of " + NumText(CardGoal) + "\r\n* denotes customized scoring was used");
     else
         info.setCaption("* denotes customized scoring was used");
     info.setLeft((width() - info.width()) / 2);
 }
 
+// The card goal, where the game keeps one, is part of the file name
+// (HighScoreFileName).
 void frmHighScores::ReadTableOfTitle() {
-    if (AppTitle == "Sumfall!") {
-        ReadSumfallScoreTable();
-    } else if (const HighScoreTable* table = HighScoreTableFor(AppTitle)) {
-        ReadHighScoreTable(table->tableName);
-    }
+    if (const GameInfo* game = GameByTitle(AppTitle)) ReadHighScoreTable(game->tableName);
 }
 
 void frmHighScores::ReadHighScoreTable(const std::string& tableName) {
@@ -78,11 +78,6 @@ void frmHighScores::ReadHighScoreTable(const std::string& tableName) {
     }
 }
 
-void frmHighScores::ReadSumfallScoreTable() {
-    // The card goal is part of the file name (HighScoreFileName).
-    if (const HighScoreTable* table = HighScoreTableFor("Sumfall!")) ReadHighScoreTable(table->tableName);
-}
-
 void frmHighScores::cmdDone_Click() { runtime().unload(*this); }
 
 // Clears the table of the current time limit (and card goal) only.
@@ -90,11 +85,11 @@ void frmHighScores::cmdClear_Click() {
     if (MsgBox("This will clear all High Scores. Are You Sure?", MsgButtons::YesNo, MsgIcon::Question, AppTitle) !=
         MsgAnswer::Yes)
         return;
-    const HighScoreTable* table = HighScoreTableFor(AppTitle);
-    if (!table) return;
-    CreateHighScoreFile(table->tableName, *this, table->defaultScore);
+    const GameInfo* game = GameByTitle(AppTitle);
+    if (!game) return;
+    CreateHighScoreFile(game->tableName, *this, game->defaultScore);
     ReadTableOfTitle();
-    if (Form* game = runtime().loaded(table->form)) ShowHighScore(table->tableName, *game, table->defaultScore);
+    if (Form* window = runtime().loaded(game->form)) ShowHighScore(game->tableName, *window, game->defaultScore);
 }
 
 }  // namespace ch

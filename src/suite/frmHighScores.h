@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Hall of Fame: the ten places of the table of the running game
-// (found by AppTitle) at the current time limit, and Sumfall's card goal.
+// (found by AppTitle) at the current time limit, and card goal where the
+// game keeps a table per goal.
 // Shown modally by the View High Scores entry and after a new place.
 #pragma once
 
@@ -16,7 +17,6 @@ public:
 
     // Fills ScoreList(0..19): names at even places, scores at odd ones.
     void ReadHighScoreTable(const std::string& tableName);
-    void ReadSumfallScoreTable();
 
 private:
     void Form_Load();

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The rules window: its text is composed anew at each opening from AppTitle
 // and the live settings of the running game, by the composer that game
-// registers under its title (the games register theirs in RegisterGameForms):
+// registers under its title (each game registers its own from its register
+// function, GameInfo::registerForms):
 //
-//   RegisterRules("Spirehold!", [] {
+//   RegisterRules(kGame.title, [] {
 //       return RulesText(33, {"Requirements: To run " + AppTitle + " ...", ..., "Good luck and have fun!"});
 //   });
 //
@@ -25,7 +26,7 @@ void RegisterRules(const std::string& title, RulesComposer composer);
 // The usual shape: a line break, `indent` blanks, AppTitle, " Rules, Notes
 // and Strategy", two line breaks, then the paragraphs, each but the last
 // closed by two line breaks. Line breaks are CR LF. A paragraph may hold
-// lines of its own joined by single line breaks (Handgrid's hand table).
+// lines of its own joined by single line breaks (a table of hands).
 std::string RulesText(int indent, const std::vector<std::string>& paragraphs);
 // The paragraphs most games open with: what the game needs, and its object:
 // `rounds` ("two") rounds of `seconds` each, and the bonus round above

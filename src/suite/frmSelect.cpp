@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "suite/frmSelect.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "suite/cards.h"
 #include "suite/common.h"
+#include "suite/gameinfo.h"
 #include "suite/gamewindow.h"
 #include "suite/suite.h"
 #include "window/runtime.h"
@@ -12,16 +16,12 @@ namespace ch {
 namespace {
 using K = ControlKind;
 
-// Design-time layout; captions are set by Form_Load.
+// Design-time layout; captions are set by Form_Load. The game buttons stand
+// in a column in the frame, one slot every 520 twips from the top.
+const ControlSpec kFrame = {K::Frame, "frmGameChoice", -1, 97, 120, 6540, 4425, "Frame1"};
+constexpr int kGameSlotTop = 240;
+constexpr int kGameSlotStep = 520;
 const ControlSpec kLayout[] = {
-    {K::Frame, "frmGameChoice", -1, 97, 120, 6540, 4425, "Frame1"},
-    {K::Button, "cmdSumfall", -1, 195, 240, 1320, 420, "Command1", "frmGameChoice"},
-    {K::Button, "cmdFivestack", -1, 195, 760, 1320, 420, "Command2", "frmGameChoice"},
-    {K::Button, "cmdBlackrush", -1, 195, 1280, 1320, 420, "Command3", "frmGameChoice"},
-    {K::Button, "cmdDuopick", -1, 195, 1800, 1320, 420, "Command4", "frmGameChoice"},
-    {K::Button, "cmdSpirehold", -1, 195, 2320, 1320, 420, "Command5", "frmGameChoice"},
-    {K::Button, "cmdHandgrid", -1, 195, 2840, 1320, 420, "Command6", "frmGameChoice"},
-    {K::Button, "cmdTreyshift", -1, 195, 3360, 1320, 420, "Command7", "frmGameChoice"},
     {K::Button, "cmdLaunchBrowser", -1, 302, 4680, 2040, 420, "Command8"},
     {K::Button, "cmdClose", -1, 4430, 4680, 2040, 420, "Command9"},
     {K::Label, "lblCopyRight", -1, 97, 5160, 6540, 240, "Label1"},
@@ -38,10 +38,24 @@ const ControlSpec kLayout[] = {
 
 // The faces the ring shows before the animation first reaches each place.
 const char* const kFirstFaces[8] = {"1S", "13H", "12C", "11D", "1H", "13S", "12D", "11C"};
+
+// The games the selector offers, by their slot in the column.
+std::vector<const GameInfo*> OfferedGames() {
+    std::vector<const GameInfo*> games;
+    for (const GameInfo* game : RegisteredGames())
+        if (game->button) games.push_back(game);
+    std::stable_sort(games.begin(), games.end(),
+                     [](const GameInfo* a, const GameInfo* b) { return a->buttonSlot < b->buttonSlot; });
+    return games;
+}
 }  // namespace
 
 frmSelect::frmSelect(Runtime& runtime) : Form(runtime, "frmSelect") {
     setSize(6855, 5880);
+    add(kFrame);
+    for (const GameInfo* game : OfferedGames())
+        add({K::Button, game->button, -1, 195, kGameSlotTop + game->buttonSlot * kGameSlotStep, 1320, 420, "",
+             "frmGameChoice"});
     add(kLayout);
     for (int i = 0; i < 8; ++i) {
         Control& image = c("imgSplashImage", i);
@@ -53,8 +67,8 @@ frmSelect::frmSelect(Runtime& runtime) : Form(runtime, "frmSelect") {
     timer.setEnabled(true);
 
     on(Ev::Load, [this](EventArgs&) { Form_Load(); });
-    for (const GameChoice& game : kGameChoices)
-        on(game.button, Ev::Click, [this, game](EventArgs&) { GameButton_Click(game.title, game.form); });
+    for (const GameInfo* game : OfferedGames())
+        on(game->button, Ev::Click, [this, game](EventArgs&) { GameButton_Click(game->title, game->form); });
     on("cmdLaunchBrowser", Ev::Click, [this](EventArgs&) { cmdLaunchBrowser_Click(); });
     on("cmdClose", Ev::Click, [this](EventArgs&) { cmdClose_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
@@ -69,25 +83,17 @@ void frmSelect::Form_Load() {
     CentreOnScreen(*this);
     setCaption("Quillmark's Card Haven");
     c("frmGameChoice").setCaption("Select your game");
-    c("cmdSumfall").setCaption("&Sumfall!");
-    c("cmdFivestack").setCaption("&Fivestack ");
-    c("cmdBlackrush").setCaption("&Blackrush");
-    c("cmdDuopick").setCaption("D&uopick");
-    c("cmdSpirehold").setCaption("&Spirehold");
-    c("cmdHandgrid").setCaption("&Handgrid");
-    c("cmdTreyshift").setCaption("Trey&shift");
+    for (const GameInfo* game : OfferedGames()) c(game->button).setCaption(game->buttonCaption);
     c("cmdLaunchBrowser").setCaption("&Go to Quillmark's website");
     c("cmdClose").setCaption("&Close");
     c("lblCopyRight").setCaption("Copyright (C) 2026 Quillmark. All cards, sounds and music made by Quillmark.");
-    // A game whose window is not part of this build is not offered.
-    for (const GameChoice& game : kGameChoices) c(game.button).setVisible(runtime().isKnownForm(game.form));
 }
 
 void frmSelect::GameButton_Click(const char* title, const char* formName) {
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     AppTitle = title;
     runtime().show(formName);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
     runtime().hide(*this);
 }
 

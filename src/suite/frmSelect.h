@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The start-up window: the animated ring of eight cards, the seven game
-// buttons, the web site button and Close. It stays loaded for the whole run,
+// The start-up window: the animated ring of eight cards, a button for each
+// registered game, the web site button and Close. It stays loaded for the whole run,
 // hidden while a game window is open.
 #pragma once
 

@@ -133,8 +133,8 @@ void PrepareStandingControls(Form& window) {
     for (const char* big : {"lblMessage", "lblScoring"}) {
         if (Control* label = window.find(big)) {
             label->setFont("Arial", 24, true);
-            label->setAlignment(2);
-            label->setForeColor(255);
+            label->setAlignment(Align::Center);
+            label->setForeColor(Colour::Red);
             label->setBackStyle(0);
             label->setVisible(false);
         }
@@ -142,9 +142,9 @@ void PrepareStandingControls(Form& window) {
     window.c("lblProductName").setFont("Arial", 24, true);
     window.c("lblCompanyProduct").setFont("Arial", 12, true);
     for (const char* centred : {"lblCompanyProduct", "lblProductName", "lblCurrentScore", "lblCurrentRound"})
-        if (Control* label = window.find(centred)) label->setAlignment(2);
-    if (Control* score = window.find("lblCurrentScore")) score->setForeColor(0xFF0000);
-    window.c("Surface").setBackColor(0);
+        if (Control* label = window.find(centred)) label->setAlignment(Align::Center);
+    if (Control* score = window.find("lblCurrentScore")) score->setForeColor(Colour::Blue);
+    window.c("Surface").setBackColor(Colour::Black);
     Control& pause = window.c("cmdPause");
     pause.setEnabled(false);
     pause.setToolTipText("Pauses the current game");
@@ -160,15 +160,18 @@ void SetTimer(Form& window, const std::string& name, int interval, bool enabled)
     timer.setEnabled(enabled);
 }
 
-void BeginFormLoad(Form& window, int16_t timeLimit, int16_t deckDesign) {
-    window.setMousePointer(11);
+void BeginFormLoad(Form& window, const GameInfo& game, int16_t deckDesign) {
+    window.setMousePointer(Pointer::Hourglass);
     window.c("Timer4").setEnabled(true);
     window.c("Timer1").setEnabled(false);
-    TimeLimit = timeLimit;
+    TimeLimit = static_cast<int16_t>(game.defaultTime);
     PlaySounds = true;
     PlayMusic = false;
     DeckDesign = deckDesign;
     CountDownScore = true;
+    for (const TimeEntry& entry : game.timeEntries)
+        if (entry.seconds == game.defaultTime) window.c(entry.menu).setChecked(true);
+    if (Control* sounds = window.find("mnuSounds")) sounds->setChecked(true);
 }
 
 void SetGameTimers(Form& window, const GameTimers& timers) {
@@ -212,12 +215,12 @@ void SplashAnimation::step(Form& window, SplashFace face) {
     Control& image = window.c("imgSplashImage", SplashPosition);
     image.zOrderBack();
     if (SplashForward) {
-        const bool sumfall = face == SplashFace::Sumfall;
+        const bool fixed = face.fixedPicture >= 0;
         if (SplashShowBack) {
             image.setPicture(ImageList2().indexOf("BACK"));
-            if (!sumfall) image.setBorderStyle(0);
-        } else if (sumfall) {
-            image.setPicture(ImageCatalogue::kSumfallSplash);
+            if (!fixed) image.setBorderStyle(0);
+        } else if (fixed) {
+            image.setPicture(face.fixedPicture);
         } else {
             image.setPicture(RandomInteger(ImageCatalogue::kFirstFace, ImageCatalogue::kLastFace));
             image.setBorderStyle(1);
@@ -237,10 +240,10 @@ void SplashAnimation::step(Form& window, SplashFace face) {
     }
 }
 
-void BindStandingTimers(Form& window, SplashAnimation& splash, SplashFace face) {
+void BindStandingTimers(Form& window, SplashAnimation& splash, SplashFace face, const char* timeOfDayTimer) {
     Form* w = &window;
     window.on("Timer2", Ev::Timer, [w](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *w); });
-    window.on("Timer3", Ev::Timer, [w](EventArgs&) { ShowTimeOfDay(*w); });
+    window.on(timeOfDayTimer, Ev::Timer, [w](EventArgs&) { ShowTimeOfDay(*w); });
     window.on("Timer4", Ev::Timer, [w, &splash, face](EventArgs&) { splash.step(*w, face); });
 }
 
@@ -275,7 +278,7 @@ void ShowTimesUp(Form& window) {
 
 void BlinkLabel(Control& label, int times, int ms) {
     for (int i = 0; i < times; ++i) {
-        label.setForeColor(label.foreColor() == 255 ? 0 : 255);
+        label.setForeColor(label.foreColor() == Colour::Red ? Colour::Black : Colour::Red);
         Runtime::current().refresh();
         Sleep(ms);
     }
@@ -323,7 +326,7 @@ std::string CloseQuestion() {
 }
 
 void LeaveGameWindow(Form& window, const std::string& settingsFile, const SettingsLayout& settings) {
-    window.setMousePointer(11);
+    window.setMousePointer(Pointer::Hourglass);
     WriteSettingsINI(settingsFile, settings);
     window.c("Timer1").setEnabled(false);
     GameInProgress = false;
@@ -435,26 +438,27 @@ void SetPlayMusic(Form& window, bool on, bool gameRunning) {
         StopMusic();
 }
 
-void BeginFormLoad(Form& window, int timeLimit, const char* timeMenu) {
-    BeginFormLoad(window, static_cast<int16_t>(timeLimit));
-    window.c(timeMenu).setChecked(true);
-    if (Control* sounds = window.find("mnuSounds")) sounds->setChecked(true);
-}
-
 void CompleteFormLoad(Form& window, const std::string& tableName, const std::string& defaultScore) {
     GameStartTime = WallClock();
     ShowSplashCaptions(window);
     CentreOnScreen(window);
     InitTimeDial(window);
     ShowHighScore(tableName, window, defaultScore);
-    window.setMousePointer(0);
+    window.setMousePointer(Pointer::Default);
 }
 
-void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face, const char* messageLabel) {
-    BindStandingTimers(window, splash, face);
+void BindSharedHandlers(Form& window, SplashAnimation& splash, const SharedHandlerPoints& points) {
+    BindStandingTimers(window, splash, points.face, points.timeOfDayTimer);
     Form* w = &window;
-    for (const char* exit : {"cmdExit", "cmdQuit", "mnuExit"})
+    const char* messageLabel = points.messageLabel;
+    for (const char* exit : {"cmdExit", "mnuExit"})
         if (window.has(exit)) window.on(exit, Ev::Click, [w](EventArgs&) { w->runtime().unload(*w); });
+    // A window whose Take Score holds the thread through sleeps lets its Quit
+    // button wait until the score is taken.
+    if (window.has("cmdQuit"))
+        window.on("cmdQuit", Ev::Click, [w, wait = points.quitWaitsForScore](EventArgs&) {
+            if (!wait || !TakingScore) w->runtime().unload(*w);
+        });
     window.on("mnuSounds", Ev::Click, [w](EventArgs&) { SetPlaySounds(*w, !PlaySounds); });
     // A paused game is a running one: the music follows the switch at once.
     window.on("mnuMusic", Ev::Click, [w](EventArgs&) { SetPlayMusic(*w, !PlayMusic, GameInProgress); });
@@ -591,7 +595,7 @@ bool StopOnRunTimeError(Form& window, const RuntimeError& error) {
     ShowRunTimeError(error);
     if (!window.loaded()) return false;
     if (Control* scoring = window.find("lblScoring")) scoring->setVisible(false);
-    if (Control* score = window.find("lblCurrentScore")) score->setForeColor(0xFF0000);
+    if (Control* score = window.find("lblCurrentScore")) score->setForeColor(Colour::Blue);
     return true;
 }
 

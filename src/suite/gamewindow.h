@@ -4,16 +4,15 @@
 // its handlers, in its own order, so that its Play, pause, time-up and close
 // read step by step in its own file. Every routine reaches the controls by
 // their names, which are the same in every game window; a control a game
-// lacks (cmdTakeScore in Fivestack, cmdExit where the game has cmdQuit) is
-// skipped.
+// lacks (cmdTakeScore, or cmdExit where the game has cmdQuit) is skipped.
 //
 // A typical game window:
 // constructor:   add(layout); PlaceControls; PrepareStandingControls(*this); SetGameTimers(*this);
-//                BindWindowEvents(...); BindPlayAndPause(...); BindSharedHandlers(*this, Splash, face);
-// Form_Load:     BeginFormLoad(*this, 45, "mnu45"); ... (its scoring defaults)
+//                BindWindowEvents(...); BindPlayAndPause(...); BindShared(points)   (gameform.h)
+// Form_Load:     BeginLoad(); ... (its scoring defaults)
 //                ShowWelcome(*this); ReadSettingsINI("\\X.Ini", SettingsSections());   (settings.h)
-//                CompleteFormLoad(*this, table, "30000");
-// Form_Resize:   if (ResizeToPlace(*this, designWidth, designHeight)) PlaceBoard();
+//                CompleteLoad();
+// Form_Resize:   if (ResizeToPlace()) PlaceBoard();
 // Timer1_Timer:  AdvanceRoundClock(*this); ShowTimeWarnings(*this);
 //                if (ElapsedSeconds == TimeLimit) { Timer1 off; hide cards; disable buttons;
 //                    ShowTimesUp(*this); BlinkLabel(c("lblMessage"), 10, 250); take score;
@@ -30,6 +29,7 @@
 #include <string>
 #include <vector>
 
+#include "suite/gameinfo.h"
 #include "suite/labels.h"
 #include "suite/settings.h"
 #include "window/control.h"
@@ -92,8 +92,8 @@ void PlaceControls(Form& window, std::span<const ControlSpec> places);
 // The state of the standing controls at load: fonts of the big labels,
 // lblMessage and lblScoring hidden, cmdPause disabled, the play captions and
 // tool tips, the fixed captions of the boxes ("Time:", "Score:", "Round:").
-// A window that shows its score or round in labels of its own (Blackrush's
-// lblTotalScore) leaves lblCurrentScore and lblCurrentRound out.
+// A window that shows its score or round in labels of its own leaves
+// lblCurrentScore and lblCurrentRound out.
 void PrepareStandingControls(Form& window);
 // A timer's interval and whether it runs.
 void SetTimer(Form& window, const std::string& name, int interval, bool enabled);
@@ -109,9 +109,10 @@ void SetGameTimers(Form& window, const GameTimers& timers = {});
 
 // ---- Form_Load ------------------------------------------------------------
 // The first steps of Form_Load: the hourglass, Timer4 on, Timer1 off, and the
-// shared defaults: TimeLimit, PlaySounds on, PlayMusic off, DeckDesign,
-// CountDownScore on. The game then sets its own scoring values.
-void BeginFormLoad(Form& window, int16_t timeLimit, int16_t deckDesign = 1);
+// shared defaults: the game's default time limit with its entry ticked,
+// sounds on (ticked), music off, `deckDesign`, count-down on. The game then
+// sets its own scoring values.
+void BeginFormLoad(Form& window, const GameInfo& game, int16_t deckDesign = 1);
 // left = (screen width - width) / 2, top likewise, integer division.
 void CentreOnScreen(Form& window);
 // Window caption = AppTitle; panel 1 "Welcome to " + AppTitle + two blanks;
@@ -122,15 +123,17 @@ void ShowWelcome(Form& window);
 void ShowSplashCaptions(Form& window);
 // The wall clock as "h:mm AMPM" ("3:07 PM").
 std::string TimeOfDayText(int64_t wallClockMs);
-// Panel 3 of StatusBar1 = the time of day (Timer3, or Timer6 in Blackrush).
+// Panel 3 of StatusBar1 = the time of day (Timer3 unless the window names another).
 void ShowTimeOfDay(Form& window);
 // Whole minutes from a wall clock reading to now.
 int MinutesSince(int64_t wallClockMs);
 
 // ---- Splash panel ----------------------------------------------------------
-enum class SplashFace {
-    RandomFace,  // a random card face with BorderStyle 1, the back with BorderStyle 0
-    Sumfall,     // the picture "SFUP" for the face, BorderStyle untouched
+// The face the ring turns up: a random card face with BorderStyle 1 (the back
+// with BorderStyle 0), or, for a window that names one, that picture every
+// time with the borders left as they are.
+struct SplashFace {
+    int fixedPicture = -1;
 };
 // The ring of four cards on the splash panel, one step per Timer4 tick:
 // forward passes turn the cards to backs or faces in turn, backward passes
@@ -141,9 +144,10 @@ struct SplashAnimation {
     bool SplashShowBack = false;
     void step(Form& window, SplashFace face);
 };
-// Binds the handlers of Timer2 (the dial's blink at DialSeconds), Timer3 (the
-// time of day) and Timer4 (a step of `splash`, which the window owns).
-void BindStandingTimers(Form& window, SplashAnimation& splash, SplashFace face);
+// Binds the handlers of Timer2 (the dial's blink at DialSeconds), the time of
+// day's timer and Timer4 (a step of `splash`, which the window owns).
+void BindStandingTimers(Form& window, SplashAnimation& splash, SplashFace face,
+                        const char* timeOfDayTimer = "Timer3");
 // frmSplash and Timer4 on or off together.
 void ShowSplash(Form& window, bool visible);
 
@@ -157,7 +161,7 @@ void AdvanceRoundClock(Form& window);
 void ShowTimeWarnings(Form& window);
 // lblMessage = "Times Up!", shown; panel 2 = "Time has expired!".
 void ShowTimesUp(Form& window);
-// `times` blinks of a label between red (255) and black: a label of any other
+// `times` blinks of a label between red and black: a label of any other
 // colour turns red first. Each blink repaints and sleeps `ms` (blocking).
 void BlinkLabel(Control& label, int times, int ms);
 
@@ -213,11 +217,7 @@ bool GameRunningUnpaused(const Form& window);
 void RunPausedIfRunning(Form& window, const std::function<void()>& step);
 
 // ---- Menus --------------------------------------------------------------------
-struct TimeEntry {
-    const char* menu;     // "mnu45"
-    int seconds;          // 45
-    const char* caption;  // "&45 seconds (default)"
-};
+// (TimeEntry, one entry of the Time menu, is in gameinfo.h.)
 // The menu entries of the time limits, under mnuTime.
 std::vector<ControlSpec> TimeMenuEntries(std::span<const TimeEntry> entries);
 // Unticks every entry.
@@ -231,7 +231,8 @@ void ApplyTimeSetting(Form& window, const std::string& value, std::span<const Ti
 
 // The design entries by DeckDesign number 1 to 4.
 inline constexpr const char* kDeckMenus[4] = {"mnuPalm", "mnuMagic", "mnuNight", "mnuHot"};
-// Fivestack and Blackrush number them the other way round at the ends.
+// The same entries numbered the other way round at the ends, for a game whose
+// designs count from the other end.
 inline constexpr const char* kReversedDeckMenus[4] = {"mnuHot", "mnuMagic", "mnuNight", "mnuPalm"};
 // ClearDeckCheck, tick the entry, move "FULL", "BACK", "HALF" to its design.
 // The game then refreshes its stock (and, when paused, its field) and sets
@@ -248,21 +249,24 @@ void SetPlaySounds(Form& window, bool on);
 void SetPlayMusic(Form& window, bool on, bool gameRunning);
 
 // ---- Shared steps of a game window ------------------------------------------
-// Form_Load's opening: the hourglass, Timer4 on, Timer1 off, and the shared
-// defaults: `timeLimit` with its entry `timeMenu` ticked, sounds on (ticked),
-// music off, back design 1, count-down on.
-void BeginFormLoad(Form& window, int timeLimit, const char* timeMenu);
 // Form_Load's close: GameStartTime, the splash captions, the window centred,
 // the dial prepared, the table's top score shown, the normal pointer.
 void CompleteFormLoad(Form& window, const std::string& tableName, const std::string& defaultScore);
-// The handlers every game window binds alike: Timer2 the dial's blink,
-// Timer3 the time of day, Timer4 the splash ring; cmdExit (or cmdQuit) and
-// mnuExit close the window; mnuSounds and mnuMusic switch; mnuView (where the window has
+// Where a window's shared handlers differ from one game to another.
+struct SharedHandlerPoints {
+    SplashFace face = {};                     // what the splash ring turns up
+    const char* messageLabel = "lblMessage";  // the label that tells a paused or finished game
+    const char* timeOfDayTimer = "Timer3";    // the timer that shows the time of day
+    bool quitWaitsForScore = false;           // cmdQuit does nothing while TakingScore
+};
+// The handlers every game window binds alike: Timer2 the dial's blink, the
+// time of day, Timer4 the splash ring; cmdExit (or cmdQuit) and mnuExit close
+// the window; mnuSounds and mnuMusic switch; mnuView (where the window has
 // it) opens the Hall of Fame around a pause of a running game
 // (RunPausedIfRunning); mnuRules and mnuAbout open their windows around a
-// pause that reads `messageLabel` to tell a paused or finished game.
-void BindSharedHandlers(Form& window, SplashAnimation& splash, SplashFace face,
-                        const char* messageLabel = "lblMessage");
+// pause that reads the message label to tell a paused or finished game. The
+// window binds none of these itself.
+void BindSharedHandlers(Form& window, SplashAnimation& splash, const SharedHandlerPoints& points = {});
 // The window's own events: Load, Resize and QueryUnload.
 void BindWindowEvents(Form& window, std::function<void()> load, std::function<void()> resize,
                       std::function<void(EventArgs&)> queryUnload);
@@ -298,7 +302,7 @@ SettingsLayout WindowSizeSections(Form& window, int designWidth, int designHeigh
 // shared variable.
 SettingsSection PlayMusicSection(Form& window);   // "[Play Music]", "True"/"False"
 SettingsSection PlaySoundsSection(Form& window);  // "[Play Sounds]"
-// "[Time]" (Blackrush names it "[Time Limit]"): a value that names an entry clicks it.
+// "[Time]" (or the game's own name for it): a value that names an entry clicks it.
 SettingsSection TimeSection(Form& window, std::span<const TimeEntry> entries, const char* name = "[Time]");
 // "[Deck]": 1 to 4 clicks that design's entry.
 SettingsSection DeckSection(Form& window, const char* const (&menus)[4] = kDeckMenus);
@@ -326,7 +330,7 @@ bool StopOnRunTimeError(Form& window, const RuntimeError& error);
 struct FinishGameSteps {
     std::function<void(bool)> showCards;               // the game's ShowCards
     std::function<void(bool, bool)> showControls;      // the game's ShowControls
-    bool disableTakeScoreMenu = true;                  // false in Treyshift, Handgrid, Blackrush
+    bool disableTakeScoreMenu = true;                  // false where Take Score has no menu entry
 };
 // The shared end of a game: Timer1 off, GameInProgress false, "&Play",
 // mnuCustom, mnuTime (and mnuClearHighRun) enabled; cmdPause, cmdTakeScore,

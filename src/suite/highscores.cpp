@@ -5,8 +5,8 @@
 
 #include "suite/common.h"
 #include "suite/files.h"
+#include "suite/gameinfo.h"
 #include "suite/sound.h"
-#include "suite/suite.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -14,43 +14,14 @@ namespace ch {
 
 namespace {
 
-const char* const kSumfallTitle = "Sumfall!";
-
-std::vector<HighScoreTable>& Tables() {
-    static std::vector<HighScoreTable> tables = {
-        {"Sumfall!", "frmSumfall", "HiScores", "50000"},
-        {"Fivestack!", "frmFivestack", "HiScores", "50000"},
-        {"Blackrush!", "frmBlackrush", "BlackrushHiScores", "50000"},
-        {"Spirehold!", "frmSpirehold", "SpireholdHiScores", "30000"},
-        {"Duopick!", "frmDuopick", "DuopickHighScores", "30000"},
-        {"Handgrid!", "frmHandgrid", "HandgridHighScores", "30000"},
-        {"Treyshift!", "frmTreyshift", "TreyshiftHiScores", "50000"},
-    };
-    return tables;
-}
-
 std::string Line(const std::string& name, const std::string& score) { return name + ", " + score + "\r\n"; }
 
 }  // namespace
 
-const HighScoreTable* HighScoreTableFor(const std::string& title) {
-    for (const HighScoreTable& table : Tables())
-        if (table.title == title) return &table;
-    return nullptr;
-}
-
-void RegisterHighScoreTable(const HighScoreTable& table) {
-    for (HighScoreTable& known : Tables())
-        if (known.title == table.title) {
-            known = table;
-            return;
-        }
-    Tables().push_back(table);
-}
-
 std::string HighScoreFileName(const std::string& tableName) {
     std::string name = "\\" + tableName + NumText(TimeLimit);
-    if (AppTitle == kSumfallTitle) name += "_" + NumText(CardGoal);
+    const GameInfo* game = GameByTitle(AppTitle);
+    if (game && !game->cardGoals.empty()) name += "_" + NumText(CardGoal);
     return AppFile(name + ".Txt");
 }
 
@@ -110,7 +81,8 @@ bool ShowHighScore(const std::string& tableName, Form& window, const std::string
     const std::vector<ScoreEntry> entries = ParseHighScoreText(text, 1);
     long long score = 0;
     if (!entries.empty() && !ScoreValue(entries.front().score, score)) return fail();
-    const std::string prefix = window.name() == "frmSpirehold" ? "Current High Score: " : "High Score: ";
+    const GameInfo* game = GameByForm(window.name());
+    const std::string prefix = game ? game->highScoreCaption : "High Score: ";
     if (label) label->setCaption(prefix + FormatScore(score));
     return true;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// High score tables: one ten-place table per game and time limit (and, for
-// Sumfall, per card goal), each a small text file in AppPath:
+// High score tables: one ten-place table per game and time limit (and per
+// card goal, for a game that lists card goals), each a small text file in AppPath:
 //     "Quillmark, 50000" CR LF  ... ten lines ...  CR LF
 // one entry a line, best first, name, comma, blank, score; a name ending in
 // "*" marks a score made under customised scoring. A table can hold an
@@ -12,7 +12,7 @@
 //                  ShowHighScore in its own order;
 //   mnuClear:      CreateHighScoreFile then ShowHighScore.
 // frmHighScores (the Hall of Fame) finds a game's table by AppTitle through
-// HighScoreTableFor.
+// GameByTitle (gameinfo.h).
 #pragma once
 
 #include <cstdint>
@@ -23,19 +23,8 @@ namespace ch {
 
 class Form;
 
-// The table of each game as the Hall of Fame uses it.
-struct HighScoreTable {
-    std::string title;         // AppTitle, "Spirehold!"
-    std::string form;          // the game window, "frmSpirehold"
-    std::string tableName;     // "SpireholdHiScores"
-    std::string defaultScore;  // "30000"
-};
-// The table of a title; null for a title no game registered.
-const HighScoreTable* HighScoreTableFor(const std::string& title);
-// Adds or replaces the table of a title (the seven games are known from the start).
-void RegisterHighScoreTable(const HighScoreTable& table);
-
-// AppPath + "\" + table name + TimeLimit [+ "_" + CardGoal for Sumfall] + ".Txt".
+// AppPath + "\" + table name + TimeLimit [+ "_" + CardGoal when the game of
+// AppTitle keeps a table per card goal] + ".Txt".
 std::string HighScoreFileName(const std::string& tableName);
 
 struct ScoreEntry {
@@ -56,8 +45,8 @@ std::string DefaultHighScoreText(const std::string& defaultScore);
 // False when the file can't be written.
 bool CreateHighScoreFile(const std::string& tableName, Form& window, const std::string& defaultScore);
 
-// lblHighScore = "High Score: " + the first score ("Current High Score: " in
-// frmSpirehold), formatted "###,###,###,##0"; a missing table is created first,
+// lblHighScore = the game's highScoreCaption ("High Score: " unless its
+// GameInfo says otherwise) + the first score, formatted "###,###,###,##0"; a missing table is created first,
 // one that is there but can't be read is left alone. False, with the label
 // emptied, when the table can neither be read nor made or its first score is
 // out of range.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Settings files ("\Sumfall.Ini" ...): a section line in square brackets, its
+// Settings files ("\X.Ini" ...): a section line in square brackets, its
 // value on the next line, an empty line; CR LF line ends.
 //
 // A game describes its file once, as a list of sections in writing order,

@@ -14,25 +14,9 @@ struct SuiteOptions {
     std::string commandLine;  // what the game windows see as the command line
 };
 
-// One entry of the selector: its button, the title it sets, the window it shows.
-struct GameChoice {
-    const char* button;
-    const char* title;
-    const char* form;
-};
-inline constexpr GameChoice kGameChoices[] = {
-    {"cmdSumfall", "Sumfall!", "frmSumfall"},
-    {"cmdFivestack", "Fivestack!", "frmFivestack"},
-    {"cmdBlackrush", "Blackrush!", "frmBlackrush"},
-    {"cmdSpirehold", "Spirehold!", "frmSpirehold"},
-    {"cmdDuopick", "Duopick!", "frmDuopick"},
-    {"cmdHandgrid", "Handgrid!", "frmHandgrid"},
-    {"cmdTreyshift", "Treyshift!", "frmTreyshift"},
-};
-
 // Registers the suite's own windows, resets the shared state, fixes
 // AppPath and shows the selector (its Form_Load runs inside). The caller
-// registers the game windows first (RegisterGameForms), so that the selector
+// registers the games first (RegisterGame, gameinfo.h), so that the selector
 // offers them.
 void StartSuite(Runtime& runtime, const SuiteOptions& options);
 

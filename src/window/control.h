@@ -33,6 +33,33 @@ struct DrawItem {
 };
 
 // Design-time description of a control, so that layouts are data.
+// Mouse pointers of a form or control (setMousePointer).
+struct Pointer {
+    static constexpr int Default = 0;
+    static constexpr int Hourglass = 11;
+    static constexpr int Custom = 99;  // the form's MouseIcon
+};
+
+// Colours as the controls keep them: 0xBBGGRR.
+struct Colour {
+    static constexpr int Black = 0x000000;
+    static constexpr int Red = 0x0000FF;
+    static constexpr int Green = 0x00C000;
+    static constexpr int Yellow = 0x00FFFF;
+    static constexpr int Purple = 0x800080;
+    static constexpr int Blue = 0xFF0000;
+    static constexpr int Cyan = 0xFFFF00;
+    static constexpr int Grey = 0xC0C0C0;
+    static constexpr int White = 0xFFFFFF;
+};
+
+// A label's or text box's alignment (setAlignment).
+struct Align {
+    static constexpr int Left = 0;
+    static constexpr int Right = 1;
+    static constexpr int Center = 2;
+};
+
 struct ControlSpec {
     ControlKind kind;
     const char* name;

@@ -47,8 +47,23 @@ std::vector<Control*> Form::array(const std::string& name) const {
     return out;
 }
 
+namespace {
+std::string HandlerName(const std::string& form, const std::string& control, Ev event) {
+    return form + "." + (control.empty() ? std::string("(form)") : control) + " event " +
+           std::to_string(static_cast<int>(event));
+}
+}  // namespace
+
 void Form::on(const std::string& control, Ev event, Handler handler) {
-    handlers_[{control, event}] = std::move(handler);
+    if (!handlers_.emplace(std::make_pair(control, event), std::move(handler)).second)
+        throw std::logic_error(HandlerName(name_, control, event) + " has a handler already; say replace");
+}
+
+void Form::replace(const std::string& control, Ev event, Handler handler) {
+    auto it = handlers_.find({control, event});
+    if (it == handlers_.end())
+        throw std::logic_error(HandlerName(name_, control, event) + " has no handler to replace");
+    it->second = std::move(handler);
 }
 
 bool Form::raise(Control* control, Ev event, EventArgs& args) {

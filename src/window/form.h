@@ -52,9 +52,14 @@ public:
     std::vector<Control*> array(const std::string& name) const;  // by rising index
     const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
 
-    // Handlers. An empty control name binds an event of the form itself.
+    // Handlers. An empty control name binds an event of the form itself. A
+    // control's event has one handler: a second `on` for it throws
+    // std::logic_error, so that no handler is replaced unseen. `replace` says
+    // that the new handler takes the place of the one bound before (and
+    // throws when there is none).
     void on(const std::string& control, Ev event, Handler handler);
     void on(Ev event, Handler handler) { on("", event, std::move(handler)); }
+    void replace(const std::string& control, Ev event, Handler handler);
     bool raise(Control* control, Ev event, EventArgs& args);
     bool raise(Control* control, Ev event) {
         EventArgs args;
@@ -73,7 +78,7 @@ public:
     int windowState() const { return windowState_; }
     void setWindowState(int state);        // raises Resize when shown
     int mousePointer() const { return mousePointer_; }
-    void setMousePointer(int v);           // 0 default, 11 hourglass, 99 custom
+    void setMousePointer(int v);           // a Pointer
     int mouseIcon() const { return mouseIcon_; }
     void setMouseIcon(int catalogueIndex);
     int backColor() const { return backColor_; }

@@ -8,6 +8,7 @@
 #include "suite/common.h"
 #include "suite/dial.h"
 #include "suite/frmRules.h"
+#include "suite/gameinfo.h"
 #include "suite/highscores.h"
 #include "suite/sound.h"
 #include "window/basic.h"
@@ -50,14 +51,33 @@ std::vector<ControlSpec> Layout() {
 }
 }  // namespace
 
-void RegisterTestGame(Runtime& runtime) {
+namespace {
+void RegisterTestGameForms(Runtime& runtime) {
     runtime.registerForm("frmTestGame", [](Runtime& rt) { return std::make_unique<frmTestGame>(rt); });
-    RegisterHighScoreTable({kTestGameTitle, "frmTestGame", kTable, kDefaultScore});
     RegisterRules(kTestGameTitle, [] {
         return RulesText(30, {"Each round lasts " + NumText(TimeLimit) + " seconds.",
                               "Good luck and have fun!"});
     });
 }
+
+// Opened by the launcher, not offered by the selector.
+const GameInfo kTestGame = {
+    .name = "testgame",
+    .title = kTestGameTitle,
+    .form = "frmTestGame",
+    .button = nullptr,
+    .buttonCaption = "",
+    .buttonSlot = 0,
+    .tableName = kTable,
+    .defaultScore = kDefaultScore,
+    .settingsFile = kSettingsFile,
+    .timeEntries = kTimeEntries,
+    .defaultTime = 60,
+    .registerForms = RegisterTestGameForms,
+};
+}  // namespace
+
+void RegisterTestGame(Runtime& runtime) { RegisterGame(runtime, kTestGame); }
 
 frmTestGame::frmTestGame(Runtime& runtime) : Form(runtime, "frmTestGame") {
     setSize(9540, 7200);
@@ -84,7 +104,7 @@ frmTestGame::frmTestGame(Runtime& runtime) : Form(runtime, "frmTestGame") {
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
     on("Timer2", Ev::Timer, [this](EventArgs&) { DrawTimeDial(DialAngle(DialSeconds), *this); });
     on("Timer3", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
-    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace::RandomFace); });
+    on("Timer4", Ev::Timer, [this](EventArgs&) { Splash.step(*this, SplashFace{}); });
     for (const TimeEntry& entry : kTimeEntries)
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int design = 1; design <= 4; ++design)
@@ -127,7 +147,7 @@ SettingsLayout frmTestGame::SettingsSections() {
 }
 
 void frmTestGame::Form_Load() {
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     c("Timer4").setEnabled(true);
     c("Timer1").setEnabled(false);
     TimeLimit = 60;
@@ -147,7 +167,7 @@ void frmTestGame::Form_Load() {
     CentreOnScreen(*this);
     InitTimeDial(*this);
     ShowHighScore(kTable, *this, kDefaultScore);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 void frmTestGame::Form_QueryUnload(EventArgs& args) {
@@ -247,7 +267,7 @@ void frmTestGame::cmdTakeScore_Click() {
 void frmTestGame::TakeScore() {
     TakingScore = true;
     c("Timer1").setEnabled(false);
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     if (PlayMusic) StopMusic();
     for (const char* name : {"cmdTakeScore", "cmdPause", "cmdPlay", "cmdExit"}) c(name).setEnabled(false);
     ShowCards(false);
@@ -260,7 +280,7 @@ void frmTestGame::TakeScore() {
                {[this](bool v) { ShowCards(v); }, [this](bool v, bool s) { ShowControls(v, s); }, true});
     if (!loaded()) return;
     Control& message = c("lblMessage");
-    message.setForeColor(255);
+    message.setForeColor(Colour::Red);
     message.setCaption(kGameOver);
     message.setVisible(true);
     runtime().refresh();
@@ -271,7 +291,7 @@ void frmTestGame::TakeScore() {
     c("cmdExit").setEnabled(true);
     c("cmdPlay").setToolTipText(kStartsTip);
     ElapsedSeconds = 0;
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 void frmTestGame::EndGame() {

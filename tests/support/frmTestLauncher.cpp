@@ -41,10 +41,10 @@ private:
     // As a game button of the selector does.
     void cmdOpen_Click() {
         Form& selector = runtime().load("frmSelect");
-        selector.setMousePointer(11);
+        selector.setMousePointer(Pointer::Hourglass);
         AppTitle = kTestGameTitle;
         runtime().show("frmTestGame");
-        selector.setMousePointer(0);
+        selector.setMousePointer(Pointer::Default);
         runtime().hide(selector);
     }
 

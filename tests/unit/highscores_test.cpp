@@ -5,9 +5,12 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <set>
 
 #include "suite/common.h"
 #include "suite/files.h"
+#include "games/games.h"
+#include "suite/gameinfo.h"
 #include "suite/highscores.h"
 #include "window/headless.h"
 #include "window/runtime.h"
@@ -25,6 +28,7 @@ protected:
         AppPath = pattern;
         TimeLimit = 60;
         AppTitle = "Spirehold!";
+        RegisterGameForms(runtime);
     }
     void TearDown() override {
         std::filesystem::remove_all(AppPath);
@@ -60,12 +64,25 @@ TEST_F(HighScoreFiles, NamesCarryTheLimitAndSumfallsGoal) {
     EXPECT_EQ(HighScoreFileName("HiScores"), AppPath + "/HiScores90.Txt");
 }
 
-TEST_F(HighScoreFiles, TheGamesTablesAreKnownByTitle) {
-    ASSERT_NE(HighScoreTableFor("Duopick!"), nullptr);
-    EXPECT_EQ(HighScoreTableFor("Duopick!")->tableName, "DuopickHighScores");
-    EXPECT_EQ(HighScoreTableFor("Blackrush!")->tableName, "BlackrushHiScores");
-    EXPECT_EQ(HighScoreTableFor("Treyshift!")->defaultScore, "50000");
-    EXPECT_EQ(HighScoreTableFor("Nothing!"), nullptr);
+// Every game is found by its title and its window, and two games never share
+// a table file: Sumfall and Fivestack share a table name, kept apart by
+// Sumfall's card goal.
+TEST_F(HighScoreFiles, EveryGameIsKnownByTitleAndWindowAndKeepsItsOwnTables) {
+    std::set<std::string> files;
+    std::set<int> slots;
+    for (const GameInfo* game : Games()) {
+        EXPECT_EQ(GameByTitle(game->title), game);
+        EXPECT_EQ(GameByForm(game->form), game);
+        EXPECT_TRUE(runtime.isKnownForm(game->form)) << game->form;
+        EXPECT_TRUE(slots.insert(game->buttonSlot).second) << game->button;
+        AppTitle = game->title;
+        CardGoal = 11;
+        for (const TimeEntry& limit : game->timeEntries) {
+            TimeLimit = static_cast<int16_t>(limit.seconds);
+            EXPECT_TRUE(files.insert(HighScoreFileName(game->tableName)).second) << game->title << " " << limit.seconds;
+        }
+    }
+    EXPECT_EQ(GameByTitle("Nothing!"), nullptr);
 }
 
 TEST(HighScoreText, ReaderSplitsAtTheFirstCommaAndSkipsBlankLines) {

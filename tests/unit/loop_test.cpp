@@ -210,6 +210,18 @@ TEST_F(LoopTest, ChangeRunsOnlyOnARealChangeAndInsideTheSetter) {
     EXPECT_EQ(log, (std::vector<std::string>{"change:Game Paused", "after", "change:"}));
 }
 
+// A control's event keeps the one handler bound to it: a second binding is a
+// fault unless it says that it replaces the first.
+TEST_F(LoopTest, ASecondHandlerIsRefusedUnlessItSaysItReplacesTheFirst) {
+    TestForm& f = show();
+    EXPECT_THROW(f.on("cmdGo", Ev::Click, [](EventArgs&) {}), std::logic_error);
+    EXPECT_THROW(f.replace("cmdGo", Ev::DblClick, [](EventArgs&) {}), std::logic_error);
+    f.raise(&f.c("cmdGo"), Ev::Click);
+    f.replace("cmdGo", Ev::Click, [this](EventArgs&) { log.push_back("go again"); });
+    f.raise(&f.c("cmdGo"), Ev::Click);
+    EXPECT_EQ(log, (std::vector<std::string>{"go", "go again"}));
+}
+
 TEST_F(LoopTest, HiddenOrDisabledControlsFramesMenusAndFormsGetNoClick) {
     TestForm& f = show();
     auto clickGo = [&] {

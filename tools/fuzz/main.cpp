@@ -13,6 +13,7 @@
 #include <vector>
 #include <unistd.h>
 
+#include "games/games.h"
 #include "tools/fuzz/fuzzer.h"
 #include "tools/script/script.h"
 
@@ -21,29 +22,6 @@ namespace {
 constexpr char kUsage[] =
     "usage: cardhaven-fuzz --game NAME [--seed N] [--events N] [--data DIR] [--trail FILE] [--keep-trail]\n"
     "                      [--stats] [--home DIR] [--edges] [--scoring]\n";
-
-struct Game {
-    const char* name;
-    const char* form;
-    const char* button;
-    const char* table;
-    std::vector<int> limits;
-    const char* settings;      // the settings file
-    const char* bonusSection;  // its score for a bonus round ("" when it keeps none)
-};
-const Game kGames[] = {
-    {"sumfall", "frmSumfall", "cmdSumfall", "HiScores", {30, 60, 90, 120, 150, 180}, "Sumfall.Ini", ""},
-    {"fivestack", "frmFivestack", "cmdFivestack", "HiScores", {15, 30, 45, 60, 75}, "Fivestack.Ini", "[BonusScore]"},
-    {"blackrush", "frmBlackrush", "cmdBlackrush", "BlackrushHiScores", {15, 30, 60, 90, 120}, "Blackrush.Ini",
-     "[Bonus Round Score]"},
-    {"spirehold", "frmSpirehold", "cmdSpirehold", "SpireholdHiScores", {30, 45, 60, 90}, "Spirehold.Ini", "[Bonus Score]"},
-    {"duopick", "frmDuopick", "cmdDuopick", "DuopickHighScores", {30, 45, 60, 75, 90, 105, 120}, "Duopick.Ini",
-     "[Bonus Score]"},
-    {"handgrid", "frmHandgrid", "cmdHandgrid", "HandgridHighScores", {30, 45, 60, 75, 90, 105, 120}, "Handgrid.Ini",
-     "[Bonus Score]"},
-    {"treyshift", "frmTreyshift", "cmdTreyshift", "TreyshiftHiScores", {60, 75, 90, 105, 120, 135, 150, 180},
-     "Treyshift.Ini", "[Bonus Score]"},
-};
 
 [[noreturn]] void Usage(const std::string& complaint) {
     std::cerr << "cardhaven-fuzz: " << complaint << "\n" << kUsage;
@@ -100,23 +78,24 @@ int main(int argc, char** argv) {
         else if (arg == "--scoring") options.scoring = true;
         else Usage("unknown argument " + arg);
     }
-    const Game* game = nullptr;
-    for (const Game& g : kGames)
-        if (gameName == g.name) game = &g;
+    const ch::GameInfo* game = nullptr;
+    for (const ch::GameInfo* g : ch::Games())
+        if (gameName == g->name) game = g;
     if (!game) Usage("--game takes one of the seven games");
     options.game = game->form;
     options.selectorButton = game->button;
-    options.settingsName = game->settings;
+    // The settings file as the home folder holds it, without its leading "\\".
+    const std::string settings = std::string(game->settingsFile).substr(1);
+    options.settingsName = settings;
     // Odd seeds start with a bonus round within reach of random play.
     if (*game->bonusSection && options.seed % 2 == 1) {
-        options.settingsFile = game->settings;
+        options.settingsFile = settings;
         options.bonusSection = game->bonusSection;
     }
-    for (int limit : game->limits) {
-        const std::string stem = game->table + std::to_string(limit);
-        if (gameName != "sumfall") options.tables.push_back(stem + ".Txt");
-        else
-            for (int goal = 10; goal <= 15; ++goal) options.tables.push_back(stem + "_" + std::to_string(goal) + ".Txt");
+    for (const ch::TimeEntry& limit : game->timeEntries) {
+        const std::string stem = game->tableName + std::to_string(limit.seconds);
+        if (game->cardGoals.empty()) options.tables.push_back(stem + ".Txt");
+        for (int goal : game->cardGoals) options.tables.push_back(stem + "_" + std::to_string(goal) + ".Txt");
     }
     if (options.trail.empty())
         options.trail = "cardhaven-fuzz-" + gameName + "-" + std::to_string(options.seed) + ".script";

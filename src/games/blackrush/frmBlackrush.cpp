@@ -36,10 +36,6 @@ constexpr int kSlotTops[kSlots] = {2355, 2730, 3150, 3555, 3945};
 constexpr int kHitLefts[kColumns] = {300, 1728, 3156, 4584};
 const char* const kPauseCaptionHere = "P&ause";
 
-const TimeEntry kTimeEntries[] = {
-    {"mnu15", 15, "&15 Seconds (for the daring)"}, {"mnu30", 30, "&30 Seconds"}, {"mnu60", 60, "&60 Seconds"},
-    {"mnu90", 90, "&90 Seconds (default)"},        {"mnu120", 120, "1&20 Seconds"},
-};
 
 // The standing controls this window doesn't have: its score is lblTotalScore,
 // its messages stand in ScoringLabelInfo, its round in lblRound alone.
@@ -146,8 +142,7 @@ void RegisterBlackrush(Runtime& runtime) {
     RegisterBlackrushRules();
 }
 
-frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
-    setSize(kDesignWidth, kDesignHeight);
+frmBlackrush::frmBlackrush(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth, kDesignHeight) {
     add(Layout());
     PlaceControls(*this, kStandingPlaces);
     PrepareStandingControls(*this);
@@ -163,32 +158,32 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
 
     Control& total = c("lblTotalScore");
     total.setFont("Arial", 12, true);
-    total.setAlignment(2);
-    total.setForeColor(0xFF0000);
+    total.setAlignment(Align::Center);
+    total.setForeColor(Colour::Blue);
     c("lblRound").setCaption("Round: 1");
     for (int i = 0; i < kColumns; ++i) {
         Control& columnTotal = c("ColumnTotal", i);
-        columnTotal.setAlignment(2);
+        columnTotal.setAlignment(Align::Center);
         columnTotal.setFontBold(true);
-        columnTotal.setBackColor(0xFFFFFF);
-        c("ColumnSoft", i).setAlignment(2);
-        c("ColumnSoft", i).setForeColor(255);
+        columnTotal.setBackColor(Colour::White);
+        c("ColumnSoft", i).setAlignment(Align::Center);
+        c("ColumnSoft", i).setForeColor(Colour::Red);
         c("ColumnSoft", i).setVisible(false);
         for (int slot = 0; slot < kSlots; ++slot) ColumnImage(i, slot).setVisible(false);
     }
     for (const char* big : {"lblBust", "ScoringLabelInfo"}) {
         Control& label = c(big);
         label.setFont("Arial", 24, true);
-        label.setAlignment(2);
-        label.setForeColor(255);
+        label.setAlignment(Align::Center);
+        label.setForeColor(Colour::Red);
         label.setBackStyle(0);
         label.setVisible(false);
         label.zOrderFront();
     }
     Control& gimme = c("lblFiveCards");
     gimme.setFont("Arial", 10, true);
-    gimme.setAlignment(2);
-    gimme.setForeColor(255);
+    gimme.setAlignment(Align::Center);
+    gimme.setForeColor(Colour::Red);
     gimme.setBackStyle(0);
     gimme.setVisible(false);
     gimme.zOrderFront();
@@ -201,18 +196,18 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
     Control& info = c("ScoringLabelInfo");
     info.setFontSize(18);
     info.setBackStyle(1);
-    info.setBackColor(0xC0C0C0);
+    info.setBackColor(Colour::Grey);
     info.zOrderFront();
     // The frame's labels stand in blue; the count of a round turns them red.
     for (const char* name : {"lblTwentyOnes", "lbl21s", "lbl21Bonus", "lblBonus", "lblCardsUsed", "lblCardsUsedCount",
                              "lblTwentyoneTime", "lblRoundScore"})
-        c(name).setForeColor(0xFF0000);
+        c(name).setForeColor(Colour::Blue);
     for (const char* name : {"lblRoundScore", "lblRoundScoreCount"}) {
-        c(name).setAlignment(2);
+        c(name).setAlignment(Align::Center);
         c(name).setVisible(false);
     }
     c("lblRoundScoreCount").setFont("Arial", 12, true);
-    c("lblRoundScoreCount").setForeColor(0xFF0000);
+    c("lblRoundScoreCount").setForeColor(Colour::Blue);
     c("ProgressBar1").setRange(0, 100);
     c("NextCardPicture").setBorderStyle(1);
     ShowGameBoard(false);
@@ -233,11 +228,10 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : Form(runtime, "frmBlackrush") {
     on("cmdHit", Ev::Click, [this](EventArgs& e) { cmdHit_Click(e.index); });
     on("cmdPass", Ev::Click, [this](EventArgs&) { cmdPass_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash, SplashFace::RandomFace, "ScoringLabelInfo");
     // Timer3 is the 21 Counter here; the time of day is Timer6's.
+    BindShared({.messageLabel = "ScoringLabelInfo", .timeOfDayTimer = "Timer6"});
     on("Timer3", Ev::Timer, [this](EventArgs&) { Timer3_Timer(); });
     on("Timer5", Ev::Timer, [this](EventArgs&) { Timer5_Timer(); });
-    on("Timer6", Ev::Timer, [this](EventArgs&) { ShowTimeOfDay(*this); });
     on("lblTime", Ev::Change, [this](EventArgs&) { lblTime_Change(); });
     on("lblRoundScore", Ev::Change, [this](EventArgs&) { CentreIn(c("lblRoundScore"), c("frameScoreInfo")); });
     for (const TimeEntry& entry : kTimeEntries)
@@ -283,8 +277,7 @@ SettingsLayout frmBlackrush::SettingsSections() {
         return [&target](const std::string& v) { target = CLng(Val(v)); };
     };
     SettingsLayout layout = {
-        {"[Play Sounds]", [this](const std::string& v) { SetPlaySounds(*this, ParseBoolText(v)); },
-         [] { return std::string(BoolText(PlaySounds)); }},
+        PlaySoundsSection(*this),
         {"[Timer Speed]",
          [this](const std::string& v) {
              for (int16_t speed : {kNormalSpeed, kSlowSpeed, kSlowestSpeed})
@@ -294,10 +287,8 @@ SettingsLayout frmBlackrush::SettingsSections() {
                  }
          },
          [this] { return NumText(Scoring.CounterSpeed); }},
-        {"[Play Music]", [this](const std::string& v) { SetPlayMusic(*this, ParseBoolText(v), false); },
-         [] { return std::string(BoolText(PlayMusic)); }},
-        {"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kReversedDeckMenus); },
-         [] { return NumText(DeckDesign); }},
+        PlayMusicSection(*this),
+        DeckSection(*this, kReversedDeckMenus),
         {"[Cards To Pass]", number16(Scoring.CardsToPass), [this] { return NumText(Scoring.CardsToPass); }},
         {"[TwentyOne Bonus Value]", number32(Scoring.TwentyOneBonusValue),
          [this] { return NumText(Scoring.TwentyOneBonusValue); }},
@@ -308,46 +299,37 @@ SettingsLayout frmBlackrush::SettingsSections() {
         {"[Deck Completion Bonus]", number32(Scoring.DeckCompletionBonus),
          [this] { return NumText(Scoring.DeckCompletionBonus); }},
         {"[Wait Period]", number16(Scoring.WaitPeriod), [this] { return NumText(Scoring.WaitPeriod); }},
-        {"[Time Limit]", [this](const std::string& v) { ApplyTimeSetting(*this, v, kTimeEntries); },
-         [] { return NumText(TimeLimit); }},
+        TimeSection(*this, kTimeEntries, "[Time Limit]"),
         {"[Bonus Round Score]", number32(Scoring.BonusScore), [this] { return NumText(Scoring.BonusScore); }},
-        {"[Count Down Score]", [](const std::string& v) { CountDownScore = ParseBoolText(v); },
-         [] { return std::string(BoolText(CountDownScore)); }},
+        CountDownSection(),
     };
     for (SettingsSection& section : WindowSizeSections(*this, kDesignWidth, kDesignHeight)) layout.push_back(section);
     return layout;
 }
 
 void frmBlackrush::Form_Load() {
-    setMousePointer(11);
-    c("Timer4").setEnabled(true);
-    c("Timer1").setEnabled(false);
-    ChooseTimeLimit(*this, kTimeEntries, "mnu90");
-    SetPlaySounds(*this, true);
-    SetPlayMusic(*this, false, false);
-    // The design's number alone: the backs in force stay until "[Deck]" or
-    // the menu chooses a design.
-    DeckDesign = 3;
-    CountDownScore = true;
+    // Design 3 by its number alone: the backs in force stay until "[Deck]"
+    // or the menu chooses a design.
+    BeginLoad(3);
     Scoring = ScoringValues{};
     c("Timer3").setInterval(Scoring.CounterSpeed);
     DeckPosition = 0;
     GameInProgress = false;
     ShowWelcome(*this);
     c("StatusBar1").setPanel(1, "Welcome to " + AppTitle + "!");
-    ReadSettingsINI(kSettingsFileName, SettingsSections());
-    CompleteFormLoad(*this, kTableName, kTableTopScore);
+    ReadSettings();
+    CompleteLoad();
     CheckForCustom();
 }
 
 void frmBlackrush::Form_QueryUnload(EventArgs& args) {
-    ConfirmCloseGameWindow(*this, args, kSettingsFileName, SettingsSections());
+    ConfirmClose(args);
 }
 
 // The cards keep their size: a resize centres the board in the window and
 // keeps the buttons at the right edge and the status bar at the bottom.
 void frmBlackrush::Form_Resize() {
-    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+    if (ResizeToPlace()) PlaceBoard();
 }
 
 void frmBlackrush::PlaceBoard() {
@@ -381,7 +363,7 @@ void frmBlackrush::mnuDeck_Click(int design) {
 }
 
 void frmBlackrush::mnuClear_Click() {
-    ClearHighScores(*this, kTableName, kTableTopScore);
+    ClearTable();
 }
 
 // The menu entry does what the button does, and nothing while the button

@@ -16,15 +16,17 @@
 #include <string>
 #include <vector>
 
+#include "games/blackrush/info.h"
 #include "games/blackrush/modBlackrush.h"
 #include "suite/boardplaces.h"
+#include "suite/gameform.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
 
 namespace ch {
 
-class frmBlackrush : public Form {
+class frmBlackrush : public GameForm {
 public:
     explicit frmBlackrush(Runtime& runtime);
 
@@ -48,7 +50,7 @@ private:
     void mnuDeck_Click(int design);
     void mnuClear_Click();
     void mnuTakeScore_Click();
-    SettingsLayout SettingsSections();
+    SettingsLayout SettingsSections() override;
 
     // ---- The board (frmBlackrushBoard.cpp) ----
     void cmdHit_Click(int index);
@@ -76,7 +78,6 @@ private:
     void ClearDial();
     Control& ColumnImage(int index, int slot) const;
     int ColumnTotalValue(int index) const;
-    void Wave(const char* name) const;
 
     // ---- The rounds (frmBlackrushRounds.cpp) ----
     void cmdPlay_Click();
@@ -100,12 +101,10 @@ private:
     int16_t TwentyOnes = 0;
     bool QuitRequested = false;
     bool CounterWasRunning = false;  // Timer3 before a pause
-    SplashAnimation Splash;
     // The controls that move with the board on a resize.
     BoardPlaces BoardMoves;
 };
 
-void RegisterBlackrush(Runtime& runtime);
 // The rules text of Blackrush, from the live values of its window (rulestext.cpp).
 void RegisterBlackrushRules();
 

@@ -19,7 +19,6 @@ using namespace blackrush;
 
 namespace {
 const char* const kColumnNames[kColumns] = {"Column1", "Column2", "Column3", "Column4"};
-constexpr int kBlue = 0xFF0000;
 }  // namespace
 
 // ---- Hit and Pass --------------------------------------------------------------------
@@ -209,7 +208,7 @@ void frmBlackrush::StopCounterBack() {
     Control& bar = c("ProgressBar1");
     bar.setValue(bar.minValue());
     c("Timer5").setEnabled(false);
-    c("lblTwentyoneTime").setForeColor(kBlue);
+    c("lblTwentyoneTime").setForeColor(Colour::Blue);
 }
 
 // ---- The columns and the pile ------------------------------------------------------------
@@ -290,9 +289,9 @@ void frmBlackrush::ShowMessage(const std::string& text, bool hold) {
     outline.setVisible(true);
     runtime().refresh();
     if (hold) return;
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     if (c("cmdPlay").caption() != kPlayCaption) Pause(Scoring.WaitPeriod);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
     info.setVisible(false);
     outline.setVisible(false);
 }
@@ -322,10 +321,6 @@ void frmBlackrush::ClearDial() {
 Control& frmBlackrush::ColumnImage(int index, int slot) const { return c(kColumnNames[index], slot); }
 
 int frmBlackrush::ColumnTotalValue(int index) const { return CInt(Val(c("ColumnTotal", index).caption())); }
-
-void frmBlackrush::Wave(const char* name) const {
-    if (PlaySounds) PlayWaveFile(name);
-}
 
 void frmBlackrush::Pause(int ms) { Sleep(std::max(ms, 0)); }
 

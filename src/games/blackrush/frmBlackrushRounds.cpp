@@ -20,8 +20,6 @@ namespace {
 const char* const kEndGameHere = "&End game";
 const char* const kPauseHere = "P&ause";
 const char* const kGoalHint = "Create columns of 21 to increase bonus score!";
-constexpr int kBlue = 0xFF0000;
-constexpr int kRed = 255;
 }  // namespace
 
 // ---- Play and End Game -------------------------------------------------------------------
@@ -153,18 +151,18 @@ void frmBlackrush::Timer3_Timer() {
     if (step.startFlash) c("Timer5").setEnabled(true);
     if (!step.expired) return;
     c("Timer5").setEnabled(false);
-    c("lblTwentyoneTime").setForeColor(kBlue);
+    c("lblTwentyoneTime").setForeColor(Colour::Blue);
     Control& bonus = c("lblBonus");
     bonus.setCaption(NumText(Scoring.TwentyOneBonusValue));
-    bonus.setForeColor(kRed);
+    bonus.setForeColor(Colour::Red);
     runtime().refresh();
     Pause(250);
-    bonus.setForeColor(kBlue);
+    bonus.setForeColor(Colour::Blue);
 }
 
 void frmBlackrush::Timer5_Timer() {
     Control& label = c("lblTwentyoneTime");
-    label.setForeColor(label.foreColor() != kRed ? kRed : 0);
+    label.setForeColor(label.foreColor() != Colour::Red ? Colour::Red : 0);
 }
 
 // ---- The end of a round -------------------------------------------------------------------
@@ -183,7 +181,7 @@ void frmBlackrush::EndOnError(const RuntimeError& error) {
     ShowRunTimeError(error);
     if (!loaded()) return;
     for (const char* name : {"lbl21Bonus", "lblTwentyOnes", "lbl21s", "lblBonus", "lblCardsUsed", "lblCardsUsedCount"})
-        c(name).setForeColor(kBlue);
+        c(name).setForeColor(Colour::Blue);
     for (const char* name : {"lblRoundScore", "lblRoundScoreCount", "lblBust", "lblFiveCards"}) c(name).setVisible(false);
     c("ProgressBar1").setVisible(true);
     c("lblTwentyoneTime").setVisible(true);
@@ -192,12 +190,12 @@ void frmBlackrush::EndOnError(const RuntimeError& error) {
     TwentyOnes = 0;
     CurrentRound = 5;
     NextRound();
-    if (loaded()) setMousePointer(0);
+    if (loaded()) setMousePointer(Pointer::Default);
 }
 
 void frmBlackrush::TakeScore() {
     TakingScore = true;
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     Control& cardsUsed = c("lblCardsUsed");
     Control& cardsUsedCount = c("lblCardsUsedCount");
     const int count = CInt(Val(cardsUsedCount.caption()));
@@ -207,8 +205,8 @@ void frmBlackrush::TakeScore() {
     EnablePlayControls(false);
     for (const char* name : {"cmdPause", "mnuPause"}) c(name).setEnabled(false);
     if (PlayMusic) StopMusic();
-    cardsUsed.setForeColor(kRed);
-    cardsUsedCount.setForeColor(kRed);
+    cardsUsed.setForeColor(Colour::Red);
+    cardsUsedCount.setForeColor(Colour::Red);
 
     if (CountDownScore) {
         for (int i = 0; i < count; ++i) {
@@ -226,8 +224,8 @@ void frmBlackrush::TakeScore() {
         Pause(500);
     }
     runtime().refresh();
-    cardsUsed.setForeColor(kBlue);
-    cardsUsedCount.setForeColor(kBlue);
+    cardsUsed.setForeColor(Colour::Blue);
+    cardsUsedCount.setForeColor(Colour::Blue);
     runtime().refresh();
 
     Control& twentyOnes = c("lbl21s");
@@ -236,7 +234,7 @@ void frmBlackrush::TakeScore() {
     Control& roundScoreCount = c("lblRoundScoreCount");
     const char* const fourLabels[] = {"lbl21Bonus", "lblTwentyOnes", "lbl21s", "lblBonus"};
     if (twentyOnes.caption() != "0") {
-        for (const char* name : fourLabels) c(name).setForeColor(kRed);
+        for (const char* name : fourLabels) c(name).setForeColor(Colour::Red);
         const long long made = CLng(Val(twentyOnes.caption()));
         const long long value = static_cast<long long>(Val(bonus.caption()));
         const long long payout = made * value;
@@ -263,7 +261,7 @@ void frmBlackrush::TakeScore() {
             ShowScore();
             Pause(500);
         }
-        for (const char* name : fourLabels) c(name).setForeColor(kBlue);
+        for (const char* name : fourLabels) c(name).setForeColor(Colour::Blue);
         roundScore.setVisible(false);
         roundScoreCount.setVisible(false);
     }
@@ -282,7 +280,7 @@ void frmBlackrush::TakeScore() {
     NextRound();
     if (!loaded()) return;
     if (PlayMusic && GameInProgress) StartMusic();
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // The next round, the bonus round for a score above BonusScore after the
@@ -311,14 +309,14 @@ void frmBlackrush::NextRound() {
             if (!loaded()) return;
         }
         info.setCaption(kGameOver);
-        info.setForeColor(kRed);
-        setMousePointer(11);
+        info.setForeColor(Colour::Red);
+        setMousePointer(Pointer::Hourglass);
         CentreIn(info, c("ScoringLabelOutline"));
         info.setVisible(true);
         runtime().refresh();
         Pause(2000);
         info.setVisible(false);
-        setMousePointer(0);
+        setMousePointer(Pointer::Default);
         DeckPosition = 0;
         c("lblRound").setCaption(kGameOver);
         GameInProgress = false;

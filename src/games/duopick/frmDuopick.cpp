@@ -22,12 +22,10 @@ using namespace duopick;
 namespace {
 using K = ControlKind;
 
-const char* const kTable = "DuopickHighScores";
 // Clear High Scores writes and shows a table of its own name, which the game
 // never plays into: the played table survives the command.
 const char* const kClearedTable = "DuopickHiScores";
 const char* const kMenuScore = "30000";
-const char* const kSettingsFile = "\\Duopick.Ini";
 constexpr int kDesignWidth = 9570;
 constexpr int kDesignHeight = 7200;
 // Where the standing controls were laid out: the right column keeps its
@@ -35,11 +33,6 @@ constexpr int kDesignHeight = 7200;
 constexpr int kStandingWidth = 9540;
 constexpr int kRightColumn = 8220;
 
-const TimeEntry kTimeEntries[] = {
-    {"mnu30", 30, "&30 seconds"},  {"mnu45", 45, "&45 seconds (default)"}, {"mnu60", 60, "&60 seconds"},
-    {"mnu75", 75, "&75 seconds"},  {"mnu90", 90, "&90 seconds"},           {"mnu105", 105, "&105 seconds"},
-    {"mnu120", 120, "1&20 seconds"},
-};
 
 // The board below the field: the stack, the count of its cards, and the
 // pairs and runs made with what each pays.
@@ -89,8 +82,7 @@ void RegisterDuopick(Runtime& runtime) {
     RegisterRules("Duopick!", DuopickRulesText);
 }
 
-frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
-    setSize(kDesignWidth, kDesignHeight);
+frmDuopick::frmDuopick(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth, kDesignHeight) {
     add(Layout());
     for (auto part : {StandingControls(), TakeScoreButton(), ExitButton()})
         for (const ControlSpec& item : part)
@@ -108,16 +100,16 @@ frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
         c("PlayCard", i).setBorderStyle(1);
         Control& selection = c("FieldSelectionRectangle", i);
         selection.setVisible(false);
-        selection.setBorderColor(255);
+        selection.setBorderColor(Colour::Red);
         selection.setBorderStyle(1);
         selection.setBackStyle(0);
     }
     c("CardStackPicture").setVisible(false);
     for (const char* count : {"lblCards", "lblScorePairs", "lblScoreRuns"}) {
         c(count).setFont("Arial", 12, true);
-        c(count).setForeColor(0xFF0000);
+        c(count).setForeColor(Colour::Blue);
     }
-    c("lblCards").setAlignment(2);
+    c("lblCards").setAlignment(Align::Center);
     for (const char* name : {"lblCardCount", "lblCards", "lblPairs", "lblScorePairs", "lblRuns", "lblScoreRuns"})
         c(name).setVisible(false);
     c("cmdExit").setToolTipText("Exits the game");
@@ -134,7 +126,7 @@ frmDuopick::frmDuopick(Runtime& runtime) : Form(runtime, "frmDuopick") {
     on("PlayCard", Ev::Click, [this](EventArgs& e) { PlayCard_Click(e.index); });
     on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
+    BindShared();
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle"); });
     on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
     for (const TimeEntry& entry : kTimeEntries)
@@ -188,18 +180,18 @@ SettingsLayout frmDuopick::SettingsSections() {
 }
 
 void frmDuopick::Form_Load() {
-    BeginFormLoad(*this, 45, "mnu45");
+    BeginLoad();
     Scoring = {};
     TimeBonus = kDefaultTimeBonus;
     ShowWelcome(*this);
-    ReadSettingsINI(kSettingsFile, SettingsSections());
+    ReadSettings();
     CheckForCustom();
     ShowBonusLabels();
-    CompleteFormLoad(*this, kTable, kMenuScore);
+    CompleteLoad();
 }
 
 // The clock runs on while the question stands.
-void frmDuopick::Form_QueryUnload(EventArgs& args) { ConfirmCloseGameWindow(*this, args, kSettingsFile, SettingsSections()); }
+void frmDuopick::Form_QueryUnload(EventArgs& args) { ConfirmClose(args); }
 
 void frmDuopick::CheckForCustom() {
     CustomScoringInUse = IsCustom(Scoring, TimeBonus);
@@ -216,7 +208,7 @@ void frmDuopick::ShowBonusLabels() {
 // of the window, the command column at its right edge and the status bar
 // at its bottom.
 void frmDuopick::Form_Resize() {
-    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+    if (ResizeToPlace()) PlaceBoard();
 }
 
 void frmDuopick::PlaceBoard() {

@@ -16,15 +16,17 @@
 #include <string>
 #include <vector>
 
+#include "games/duopick/info.h"
 #include "games/duopick/modDuopick.h"
 #include "suite/boardplaces.h"
+#include "suite/gameform.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
 
 namespace ch {
 
-class frmDuopick : public Form {
+class frmDuopick : public GameForm {
 public:
     explicit frmDuopick(Runtime& runtime);
 
@@ -42,7 +44,7 @@ private:
     void Form_Resize();
     void Form_QueryUnload(EventArgs& args);
     void PlaceBoard();
-    SettingsLayout SettingsSections();
+    SettingsLayout SettingsSections() override;
     void mnuTime_Click(const char* menu);
     void mnuDeck_Click(int design);
     void mnuClear_Click();
@@ -59,7 +61,6 @@ private:
     void CardStackPicture_Click();
     void ShowStackStage();
     void ShowCardImage(int index, const std::string& code);
-    void Wave(const char* name) const;
 
     // ---- The rounds (frmDuopickRounds.cpp)
     void cmdPlay_Click();
@@ -89,12 +90,10 @@ private:
     int32_t RunsCount = 0;
     bool RoundCompleted = false;
     int16_t CurrentRound = 1;
-    SplashAnimation Splash;
     BoardPlaces BoardMoves;   // the field and the board below it, at their design sizes
     BoardPlaces RightColumn;  // the buttons and boxes at the right edge
 };
 
-void RegisterDuopick(Runtime& runtime);
 // The rules window's text from the live settings (rulestext.cpp).
 std::string DuopickRulesText();
 

@@ -171,7 +171,7 @@ void frmDuopick::SecondCard(int index) {
 // the top of their 16-bit range WastePos and StackIndex can't be raised, and
 // stay.
 void frmDuopick::CardStackPicture_Click() {
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     CardsRemaining = static_cast<int16_t>(CardsRemaining > 0 ? CardsRemaining - 1 : 0);
     c("lblCards").setCaption(NumText(CardsRemaining));
     Wave("\\Click.wav");
@@ -201,7 +201,7 @@ void frmDuopick::CardStackPicture_Click() {
 
     ShowStackStage();
     if (StackOverrun(StackIndex)) Wave("\\Chord.wav");
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // The stack's picture by how far it has been turned; up to 27 it keeps the
@@ -231,10 +231,6 @@ void frmDuopick::ShowControls(bool visible, bool scoreVisible) {
                              "RoundRectangle", "RoundBevelSide", "RoundBevelBottom", "lblCurrentRound",
                              "lblCardCount", "lblCards", "lblPairs", "lblScorePairs", "lblRuns", "lblScoreRuns"})
         c(name).setVisible(visible);
-}
-
-void frmDuopick::Wave(const char* name) const {
-    if (PlaySounds) PlayWaveFile(name);
 }
 
 }  // namespace ch

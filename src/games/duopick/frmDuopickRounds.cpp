@@ -17,7 +17,6 @@ namespace ch {
 using namespace duopick;
 
 namespace {
-const char* const kTable = "DuopickHighScores";
 const char* const kGameOverScore = "50000";
 const char* const kRoundTip = "Ends the current game";
 }  // namespace
@@ -120,11 +119,11 @@ void frmDuopick::ResumeGame() {
 
 void frmDuopick::Timer1_Timer() {
     if (!RoundClockRunsOut(*this)) return;
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     ShowCards(false);
     // A half-made pair counts for nothing.
     ClearSelectionRectangles();
-    if (TimesUpThenScore(*this, [this] { raise(&c("cmdTakeScore"), Ev::Click); })) setMousePointer(0);
+    if (TimesUpThenScore(*this, [this] { raise(&c("cmdTakeScore"), Ev::Click); })) setMousePointer(Pointer::Default);
 }
 
 // ---- The end of a round ---------------------------------------------------------------
@@ -149,13 +148,13 @@ void frmDuopick::TakeScore() {
     ClearSelectionRectangles();
     const char* const buttons[] = {"cmdTakeScore", "cmdPause", "cmdExit", "cmdPlay"};
     for (const char* name : buttons) c(name).setEnabled(false);
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     ShowCards(false);
     if (PlayMusic) StopMusic();
 
     CurrentRound += 1;
     Control& message = c("lblMessage");
-    message.setForeColor(255);
+    message.setForeColor(Colour::Red);
     for (const Award& award :
          RoundAwards(Scoring, TimeBonus, RoundCompleted, TimeLimit - ElapsedSeconds, RunsCount, PairsCount)) {
         if (award.kind == Award::Kind::Time)
@@ -167,7 +166,7 @@ void frmDuopick::TakeScore() {
     switch (NextStep(CurrentRound, CurrentScore, Scoring.BonusScore)) {
         case AfterRound::RoundTwo:
             for (const char* name : buttons) c(name).setEnabled(true);
-            message.setForeColor(255);
+            message.setForeColor(Colour::Red);
             message.setVisible(true);
             message.setCaption("Prepare for Round Two!");
             BlinkLabel(message, 11, 250);
@@ -189,16 +188,16 @@ void frmDuopick::TakeScore() {
     }
     if (!loaded()) return;
     c("lblScoring").setVisible(false);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 void frmDuopick::GameOver() {
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     FinishGame(*this, kTable, kGameOverScore,
                {[this](bool v) { ShowCards(v); }, [this](bool v, bool s) { ShowControls(v, s); }});
     if (!loaded()) return;
     Control& message = c("lblMessage");
-    message.setForeColor(255);
+    message.setForeColor(Colour::Red);
     c("cmdPlay").setToolTipText(kStartsTip);
     c("cmdTakeScore").setEnabled(false);
     for (const char* name : {"cmdPlay", "cmdExit", "mnuTime", "mnuCustom"}) c(name).setEnabled(true);
@@ -208,7 +207,7 @@ void frmDuopick::GameOver() {
     Sleep(2000);
     // "Game Over" stays on show over the splash panel until the next game.
     ShowSplash(*this, true);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 void frmDuopick::ShowScore() { c("lblCurrentScore").setCaption(FormatScore(CurrentScore)); }

@@ -26,13 +26,6 @@ namespace {
 using K = ControlKind;
 
 
-const TimeEntry kTimeEntries[] = {
-    {"mnu15", 15, "&15 seconds"},
-    {"mnu30", 30, "&30 seconds"},
-    {"mnu45", 45, "&45 seconds"},
-    {"mnu60", 60, "&60 seconds (default)"},
-    {"mnu75", 75, "&75 seconds"},
-};
 
 // Fivestack's own places for the standing controls: the Time Bonus box with
 // the dial under it, the score and round stand in the top band beside the
@@ -153,8 +146,7 @@ void RegisterFivestack(Runtime& runtime) {
     RegisterFivestackRules();
 }
 
-frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
-    setSize(kDesignWidth, kDesignHeight);
+frmFivestack::frmFivestack(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth, kDesignHeight) {
     add(Layout());
     for (const ControlSpec& s : Layout())
         if (!KeepsItsOwnPlace(s)) BoardMoves.add(c(s.name, s.index));
@@ -166,11 +158,11 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
         for (int slot = 0; slot < kSlots; ++slot) c(kColumnImages[i], slot).setVisible(false);
         for (Control* control : {&c("ColumnTotal", i), &c("ColumnSoft", i), &c(kColumnLines[i]), &c("cmdHit", i)})
             control->setVisible(false);
-        c("ColumnTotal", i).setAlignment(2);
-        c("ColumnTotal", i).setBackColor(0xFFFFFF);
+        c("ColumnTotal", i).setAlignment(Align::Center);
+        c("ColumnTotal", i).setBackColor(Colour::White);
         c("ColumnTotal", i).setFont("Arial", 12, true);
-        c("ColumnSoft", i).setAlignment(2);
-        c("ColumnSoft", i).setForeColor(255);
+        c("ColumnSoft", i).setAlignment(Align::Center);
+        c("ColumnSoft", i).setForeColor(Colour::Red);
         c("ColumnSoft", i).setBackStyle(0);
     }
     for (const char* name : {"PlayCardPicture", "NextCardPicture", "cmdPass", "lblTimeBonus", "lblCurrentRoundScore",
@@ -184,13 +176,13 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
     c("lblTimeBonus").setFont("Arial", 12, true);
     c("lblTimeBonus").setBackStyle(0);
     c("lblTotalScore").setFont("Arial", 12, true);
-    c("lblTotalScore").setAlignment(2);
-    c("lblTotalScore").setForeColor(0xFF0000);
-    c("lblCurrentRoundScore").setAlignment(2);
+    c("lblTotalScore").setAlignment(Align::Center);
+    c("lblTotalScore").setForeColor(Colour::Blue);
+    c("lblCurrentRoundScore").setAlignment(Align::Center);
     c("lblCurrentTotal").setFont("Arial", 12, true);
-    c("lblCurrentTotal").setAlignment(2);
-    c("lblCurrentTotal").setBackColor(0xFFFFFF);
-    c("lblCurrentTotal").setForeColor(255);
+    c("lblCurrentTotal").setAlignment(Align::Center);
+    c("lblCurrentTotal").setBackColor(Colour::White);
+    c("lblCurrentTotal").setForeColor(Colour::Red);
     for (const char* big : {"ScoringLabel", "ScoringLabelRoundTotal"}) {
         c(big).setFont("Arial", 18, true);
         c(big).setBackStyle(0);
@@ -198,10 +190,10 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
     c("ScoringLabelInfo").setFont("Arial", 10, true);
     c("ScoringLabelInfo").setBackStyle(0);
     c("ScoringLabelOutline").setBorderStyle(1);
-    c("ScoringLabelOutline").setBorderColor(0xFF0000);
+    c("ScoringLabelOutline").setBorderColor(Colour::Blue);
     for (const CardTotalRow& row : kCardTotalRows) {
         c(row.valueLabel).setCaption(NumText(row.value));
-        c(row.valueLabel).setAlignment(1);
+        c(row.valueLabel).setAlignment(Align::Right);
     }
     c("PlayCardPicture").setBorderStyle(0);
     for (const char* name : {"ScoringLabelOutline", "ScoringLabelRoundTotal", "ScoringLabel", "ScoringLabelInfo"})
@@ -214,7 +206,7 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
     on("cmdPass", Ev::Click, [this](EventArgs&) { cmdPass_Click(); });
     on("cmdGiveUp", Ev::Click, [this](EventArgs&) { cmdGiveUp_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash, SplashFace::RandomFace, "ScoringLabel");
+    BindShared({.messageLabel = "ScoringLabel"});
     on("lblCurrentTotal", Ev::Change, [this](EventArgs&) { lblCurrentTotal_Change(); });
     on("lblTotalScore", Ev::Change, [this](EventArgs&) { lblTotalScore_Change(); });
     on("lblHighScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblHighScore", "ScoreRectangle"); });
@@ -259,14 +251,10 @@ frmFivestack::frmFivestack(Runtime& runtime) : Form(runtime, "frmFivestack") {
 
 SettingsLayout frmFivestack::SettingsSections() {
     SettingsLayout layout = {
-        {"[Time]", [this](const std::string& v) { ApplyTimeSetting(*this, v, kTimeEntries); },
-         [] { return NumText(TimeLimit); }},
-        {"[Play Sounds]", [this](const std::string& v) { SetPlaySounds(*this, ParseBoolText(v)); },
-         [] { return std::string(BoolText(PlaySounds)); }},
-        {"[Play Music]", [this](const std::string& v) { SetPlayMusic(*this, ParseBoolText(v), false); },
-         [] { return std::string(BoolText(PlayMusic)); }},
-        {"[Deck]", [this](const std::string& v) { ApplyDeckSetting(*this, v, kReversedDeckMenus); },
-         [] { return NumText(DeckDesign); }},
+        TimeSection(*this, kTimeEntries),
+        PlaySoundsSection(*this),
+        PlayMusicSection(*this),
+        DeckSection(*this, kReversedDeckMenus),
         {"[TimeBonusMax]", [this](const std::string& v) { Scoring.TimeBonusMax = CInt(Val(v)); },
          [this] { return NumText(Scoring.TimeBonusMax); }},
         {"[TimeBonusMin]", [this](const std::string& v) { Scoring.TimeBonusMin = CInt(Val(v)); },
@@ -275,8 +263,7 @@ SettingsLayout frmFivestack::SettingsSections() {
          [this] { return NumText(Scoring.BonusScore); }},
         {"[WaitPeriod]", [this](const std::string& v) { Scoring.WaitPeriod = CInt(Val(v)); },
          [this] { return NumText(Scoring.WaitPeriod); }},
-        {"[CountDownScore]", [](const std::string& v) { CountDownScore = ParseBoolText(v); },
-         [] { return std::string(BoolText(CountDownScore)); }},
+        CountDownSection("[CountDownScore]"),
         {"[Cards To Pass]",
          [this](const std::string& v) {
              Scoring.CardsToPass = CInt(Val(v));
@@ -289,17 +276,16 @@ SettingsLayout frmFivestack::SettingsSections() {
 }
 
 void frmFivestack::Form_Load() {
-    BeginFormLoad(*this, kDefaultTimeLimit);
+    BeginLoad();
     GameInProgress = false;
     Scoring = {};
     PassesLeft = Scoring.CardsToPass;
-    c("mnuSounds").setChecked(true);
     ShowWelcome(*this);
     c("StatusBar1").setPanel(1, "Welcome to " + AppTitle + "   ");
     raise(&c("mnu60"), Ev::Click);
-    ReadSettingsINI(kSettingsFile, SettingsSections());
+    ReadSettings();
     TimeBonusDecay = fivestack::TimeBonusDecay(Scoring.TimeBonusMax, Scoring.TimeBonusMin, TimeLimit);
-    CompleteFormLoad(*this, kTable, kDefaultTopScore);
+    CompleteLoad();
     CheckForCustom();
     if (PassesLeft == 0) c("cmdPass").setEnabled(false);
 }
@@ -311,7 +297,7 @@ void frmFivestack::Form_QueryUnload(EventArgs& args) {
     const std::string& info = c("ScoringLabelInfo").caption();
     const bool pauseFirst = GameInProgress && c("cmdPause").enabled() && info != kGamePaused && info != kGameOver;
     if (pauseFirst) cmdPause_Click();
-    ConfirmCloseGameWindow(*this, args, pauseFirst, [this] { cmdPause_Click(); }, kSettingsFile, SettingsSections());
+    ConfirmClose(args, pauseFirst, [this] { cmdPause_Click(); });
 }
 
 // The cards keep their size: a resize only moves the board to the middle of
@@ -336,7 +322,7 @@ void frmFivestack::Form_Resize() {
             if (PlayMusic) StartMusic();
         }
     }
-    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+    if (ResizeToPlace()) PlaceBoard();
 }
 
 void frmFivestack::PlaceBoard() {
@@ -368,7 +354,7 @@ void frmFivestack::mnuDeck_Click(int design) {
 }
 
 void frmFivestack::mnuClear_Click() {
-    ClearHighScores(*this, kTable, kDefaultTopScore);
+    ClearTable();
 }
 
 void frmFivestack::mnuCustom_Click() { runtime().show("frmFivestackCustomScoring", true); }

@@ -16,15 +16,17 @@
 #include <cstdint>
 #include <string>
 
+#include "games/fivestack/info.h"
 #include "games/fivestack/modFivestack.h"
 #include "suite/boardplaces.h"
+#include "suite/gameform.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
 
 namespace ch {
 
-class frmFivestack : public Form {
+class frmFivestack : public GameForm {
 public:
     explicit frmFivestack(Runtime& runtime);
 
@@ -47,7 +49,7 @@ private:
     void mnuDeck_Click(int design);
     void mnuClear_Click();
     void mnuCustom_Click();
-    SettingsLayout SettingsSections();
+    SettingsLayout SettingsSections() override;
     void PlaceBoard();
 
     // The board (frmFivestackBoard.cpp).
@@ -96,7 +98,6 @@ private:
     void CenterTimeBonus();
     void lblTotalScore_Change();
     void ShowScore();
-    void Wave(const char* name) const;
 
     std::array<fivestack::Column, fivestack::kColumns> Columns{};
     int16_t DeckPosition = 1;
@@ -106,11 +107,9 @@ private:
     bool QuitRequested = false;
     bool Busted = false;
     bool Minimised = false;  // the clock was stopped by minimising the window
-    SplashAnimation Splash;
     BoardPlaces BoardMoves;  // all but the buttons, the status bar, menus and timers
 };
 
-void RegisterFivestack(Runtime& runtime);
 // The rules window's text of Fivestack, from the window's live settings.
 void RegisterFivestackRules();
 

@@ -19,8 +19,6 @@ namespace {
 const char* const kTakeScore = "&Take score";
 const char* const kGiveUpLost = "&Give up";
 const char* const kGiveUpFresh = "&Give Up";
-constexpr int kRed = 255;
-constexpr int kGreen = 49152;
 
 int PictureOf(const std::string& code) { return ImageList2().indexOf(CardKey(code)); }
 }  // namespace
@@ -49,14 +47,14 @@ void frmFivestack::cmdHit_Click(int index) {
         AddUpCardTotal();
         if (!loaded()) return;
         if (Val(c("lblCurrentTotal").caption()) < kLowestScoringTotal) {
-            c("lblCurrentTotal").setForeColor(kRed);
+            c("lblCurrentTotal").setForeColor(Colour::Red);
             c("cmdGiveUp").setCaption(kGiveUpLost);
         }
         return;
     }
     AddUpCardTotal();
     if (!loaded()) return;
-    if (Val(c("lblCurrentTotal").caption()) > 96) c("lblCurrentTotal").setForeColor(kGreen);
+    if (Val(c("lblCurrentTotal").caption()) > 96) c("lblCurrentTotal").setForeColor(Colour::Green);
     ShowNextCard();
 }
 
@@ -172,7 +170,7 @@ void frmFivestack::UpdateCardTotalValue() {
         const CardTotalRow& r = kCardTotalRows[static_cast<size_t>(row)];
         for (const char* name : {r.rowLabel, r.valueLabel}) {
             c(name).setFontBold(true);
-            c(name).setForeColor(kRed);
+            c(name).setForeColor(Colour::Red);
         }
         CardTotalValue = CInt(Val(c(r.valueLabel).caption()));
     }
@@ -183,7 +181,7 @@ void frmFivestack::ClearCardTotalRows() {
     for (const CardTotalRow& r : kCardTotalRows)
         for (const char* name : {r.rowLabel, r.valueLabel}) {
             c(name).setFontBold(false);
-            c(name).setForeColor(0);
+            c(name).setForeColor(Colour::Black);
         }
 }
 

@@ -19,8 +19,6 @@ using namespace fivestack;
 
 namespace {
 const char* const kTakeScore = "&Take score";
-constexpr int kRed = 255;
-constexpr int kBlue = 16711680;
 }  // namespace
 
 // ---- Play and End Game -------------------------------------------------------------
@@ -36,7 +34,7 @@ void frmFivestack::cmdPlay_Click(bool fromMenu) {
 }
 
 void frmFivestack::Play() {
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     TakingScore = false;
     QuitRequested = false;
     ShowSplash(*this, false);
@@ -52,7 +50,7 @@ void frmFivestack::Play() {
         ShowSplash(*this, true);
         c("mnuTime").setEnabled(true);
         c("mnuCustom").setEnabled(true);
-        setMousePointer(0);
+        setMousePointer(Pointer::Default);
         return;
     }
     EnableControls();
@@ -85,7 +83,7 @@ void frmFivestack::Play() {
     for (const char* name : {"TimerRectangle", "TimerBevelSide", "TimerBevelBottom"}) c(name).setVisible(true);
     GameInProgress = true;
     if (PlayMusic) StartMusic();
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // The game is paused behind the question; a confirmed end puts the board
@@ -122,7 +120,7 @@ void frmFivestack::PauseGame() {
     Control& message = c("ScoringLabel");
     if (c("cmdPause").caption() == kPauseCaption) {
         SetPausedControls(*this, "ScoringLabel");
-        message.setForeColor(kBlue);
+        message.setForeColor(Colour::Blue);
         CenterScoringLabel();
         ShowCards(false);
         ShowHitButtons(false);
@@ -150,7 +148,7 @@ void frmFivestack::Timer1_Timer() {
     if (ElapsedSeconds < TimeLimit) return;
     ShowCards(false);
     Control& message = c("ScoringLabel");
-    message.setForeColor(kRed);
+    message.setForeColor(Colour::Red);
     c("Timer1").setEnabled(false);
     message.setCaption(kTimesUp);
     CenterScoringLabel();
@@ -168,7 +166,7 @@ void frmFivestack::Timer1_Timer() {
 void frmFivestack::cmdGiveUp_Click() {
     if (TakingScore) return;
     TakingScore = true;
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     CurrentRound += 1;
     if (c("cmdGiveUp").caption() == kTakeScore) {
         TakeScore();
@@ -177,7 +175,7 @@ void frmFivestack::cmdGiveUp_Click() {
         if (PlayMusic) StopMusic();
         ShowCards(false);
         Control& message = c("ScoringLabel");
-        message.setForeColor(kRed);
+        message.setForeColor(Colour::Red);
         if (CardTotal < kLowestScoringTotal) {
             message.setFontSize(18);
             message.setCaption("Sorry, 97 or more needed to win!");
@@ -189,7 +187,7 @@ void frmFivestack::cmdGiveUp_Click() {
         c("ScoringLabelOutline").setVisible(true);
         message.setVisible(true);
         for (int i = 0; i < 12; ++i) {
-            message.setForeColor(message.foreColor() == kRed ? 0 : kRed);
+            message.setForeColor(message.foreColor() == Colour::Red ? 0 : Colour::Red);
             runtime().refresh();
             Sleep(150);
         }
@@ -207,7 +205,7 @@ void frmFivestack::cmdGiveUp_Click() {
         MsgBox("Unable to reset the board.", MsgButtons::OK, MsgIcon::None, AppTitle);
         runtime().end();
     }
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // The round's score: the Card Total Value times the Time Bonus of the last
@@ -235,8 +233,8 @@ void frmFivestack::TakeScore() {
         message.setLeft(roundTotal.left() + roundTotal.width());
         message.setTop(roundTotal.top());
 
-        info.setForeColor(0);
-        message.setForeColor(0);
+        info.setForeColor(Colour::Black);
+        message.setForeColor(Colour::Black);
         info.setCaption("Card Total Value (" + NumText(CardTotalValue) + ") X Time Bonus (" + NumText(TimeBonus) + ")");
         ShowScoringLabel(true);
         c("ScoringLabelOutline").setVisible(true);
@@ -247,7 +245,7 @@ void frmFivestack::TakeScore() {
             Wave("\\Applause.wav");
             Sleep(2 * Scoring.WaitPeriod);
         }
-        message.setForeColor(kRed);
+        message.setForeColor(Colour::Red);
         if (CountDownScore) {
             CountRoundScore(roundScore);
         } else {
@@ -281,7 +279,7 @@ void frmFivestack::CountRoundScore(int32_t roundScore) {
     }
     message.setCaption("0");
     Sleep(50);
-    message.setForeColor(kBlue);
+    message.setForeColor(Colour::Blue);
 }
 
 // ---- The next round or the end -----------------------------------------------------
@@ -307,20 +305,20 @@ void frmFivestack::GameOver() {
                    MsgButtons::OK, MsgIcon::Critical, AppTitle);
         if (!loaded()) return;
         message.setCaption(kGameOver);
-        message.setForeColor(kRed);
+        message.setForeColor(Colour::Red);
         message.setVisible(true);
-        setMousePointer(11);
+        setMousePointer(Pointer::Hourglass);
         CenterScoringLabel();
         runtime().refresh();
         Sleep(2000);
         message.setVisible(false);
-        setMousePointer(0);
+        setMousePointer(Pointer::Default);
     }
     GameInProgress = false;
     setCaption(AppTitle + ": Game Over");
     c("lblRound").setVisible(false);
     c("lblRound").setCaption("Round: 1");
-    message.setForeColor(kBlue);
+    message.setForeColor(Colour::Blue);
     message.setCaption(kGameOver);
     CenterScoringLabel();
     message.setVisible(false);
@@ -338,7 +336,7 @@ void frmFivestack::GameOver() {
     c("frmScore").setVisible(false);
     c("StatusBar1").setPanel(1, "Game over!  ");
     c("StatusBar1").setPanel(2, "Click on Play to start a new game.  ");
-    c("lblCurrentTotal").setForeColor(kRed);
+    c("lblCurrentTotal").setForeColor(Colour::Red);
 }
 
 // The announcement of the round, then a fresh deck on a cleared board.
@@ -356,7 +354,7 @@ void frmFivestack::StartRound() {
     } else {
         message.setCaption("Prepare for Round " + NumText(CurrentRound));
     }
-    message.setForeColor(kBlue);
+    message.setForeColor(Colour::Blue);
     CenterScoringLabel();
     message.setVisible(true);
     runtime().refresh();
@@ -383,7 +381,7 @@ void frmFivestack::StartRound() {
     c("Timer1").setEnabled(true);
     for (const char* name : {"TimerRectangle", "TimerBevelSide", "TimerBevelBottom"}) c(name).setVisible(true);
     TakingScore = false;
-    c("lblCurrentTotal").setForeColor(kRed);
+    c("lblCurrentTotal").setForeColor(Colour::Red);
 }
 
 // The rounds' half of Reset; the board's half is ClearBoard.
@@ -452,9 +450,5 @@ void frmFivestack::lblTotalScore_Change() {
 }
 
 void frmFivestack::ShowScore() { c("lblTotalScore").setCaption(NumText(CurrentScore)); }
-
-void frmFivestack::Wave(const char* name) const {
-    if (PlaySounds) PlayWaveFile(name);
-}
 
 }  // namespace ch

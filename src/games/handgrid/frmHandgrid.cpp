@@ -23,9 +23,6 @@ using namespace handgrid;
 namespace {
 using K = ControlKind;
 
-const char* const kTable = "HandgridHighScores";
-const char* const kDefaultScore = "30000";
-const char* const kSettingsFile = "\\Handgrid.Ini";
 constexpr int kDesignWidth = 9570;
 constexpr int kDesignHeight = 7200;
 constexpr int kCardWidth = 1035;
@@ -34,11 +31,6 @@ const int kColumnLefts[5] = {210, 1320, 2415, 3525, 4635};
 const int kRowTops[5] = {204, 1260, 2310, 3345, 4410};
 const int kRowLabelTops[5] = {645, 1770, 2850, 3990, 4965};
 
-const TimeEntry kTimeEntries[] = {
-    {"mnu30", 30, "&30 seconds"},   {"mnu45", 45, "&45 seconds"},   {"mnu60", 60, "&60 seconds  "},
-    {"mnu75", 75, "&75 seconds (default)"}, {"mnu90", 90, "&90 seconds"}, {"mnu105", 105, "&105 seconds"},
-    {"mnu120", 120, "&120 seconds"},
-};
 // A saved limit of 120 is written but not taken back at the next start.
 const std::span<const TimeEntry> kReadableTimes = std::span<const TimeEntry>(kTimeEntries).first(6);
 
@@ -108,8 +100,7 @@ void RegisterHandgrid(Runtime& runtime) {
     RegisterRules("Handgrid!", HandgridRules);
 }
 
-frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
-    setSize(kDesignWidth, kDesignHeight);
+frmHandgrid::frmHandgrid(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth, kDesignHeight) {
     add(Layout());
     PlaceControls(*this, kStandingPlaces);
     // The grid, its row labels, the boxes and the deck move with the board;
@@ -133,14 +124,14 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
         c(name).setVisible(false);
     Control& scoring = c("ScoringLabel");
     scoring.setFont("MS Sans Serif", 18, true);
-    scoring.setAlignment(2);
-    scoring.setForeColor(255);
+    scoring.setAlignment(Align::Center);
+    scoring.setForeColor(Colour::Red);
     scoring.setBackStyle(0);
     scoring.setVisible(false);
     c("ScoringLabelOutline").setVisible(false);
     c("ScoringLabelOutline").setBorderStyle(1);
     c("lblTimeBonus").setFont("MS Sans Serif", 12, true);
-    c("lblTimeBonus").setForeColor(0xFFFFFF);
+    c("lblTimeBonus").setForeColor(Colour::White);
     c("lblTimeBonus").setBackStyle(0);
     c("lblCurrentScore").setFont("MS Sans Serif", 12, true);
     for (int i = 0; i < kCells; ++i) c("PlayCards", i).setVisible(false);
@@ -151,13 +142,10 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
     ShowTimerFrame(false);
     CenterScoringLabel();
 
-    BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
+    BindShared({.quitWaitsForScore = true});
     BindWindowEvents(
         *this, [this] { Form_Load(); }, [this] { Form_Resize(); }, [this](EventArgs& e) { Form_QueryUnload(e); });
     BindPlayAndPause(*this, [this](bool) { Play(); }, [this] { cmdPause_Click(); });
-    on("cmdQuit", Ev::Click, [this](EventArgs&) {
-        if (!TakingScore) this->runtime().unload(*this);
-    });
     on("PlayCards", Ev::Click, [this](EventArgs& e) { PlayCards_Click(e.index); });
     on("CardStackPicture", Ev::Click, [this](EventArgs&) { CardStackPicture_Click(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
@@ -172,7 +160,7 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : Form(runtime, "frmHandgrid") {
     for (int design = 1; design <= 4; ++design)
         on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmHandgridCustom", true); });
-    on("mnuClear", Ev::Click, [this](EventArgs&) { ClearHighScores(*this, kTable, kDefaultScore); });
+    on("mnuClear", Ev::Click, [this](EventArgs&) { ClearTable(); });
 
     expose("PlayedCards", [this](int index, Value& out) {
         if (index < 0 || index >= kCells) return false;
@@ -237,22 +225,22 @@ SettingsLayout frmHandgrid::SettingsSections() {
 }
 
 void frmHandgrid::Form_Load() {
-    BeginFormLoad(*this, kDefaultTimeLimit, "mnu75");
+    BeginLoad();
     Scoring = {};
     TimeBonus = kDefaultTimeBonus;
     HandSoundPlayed = false;
     ShowWelcome(*this);
-    ReadSettingsINI(kSettingsFile, SettingsSections());
+    ReadSettings();
     CheckForCustom();
     ShowOverWrites();
     c("lblTimeBonus").setCaption(NumText(TimeLimit));
     lblRound_Change();
-    CompleteFormLoad(*this, kTable, kDefaultScore);
+    CompleteLoad();
 }
 
 // The clock runs on while the question stands.
 void frmHandgrid::Form_QueryUnload(EventArgs& args) {
-    ConfirmCloseGameWindow(*this, args, kSettingsFile, SettingsSections());
+    ConfirmClose(args);
 }
 
 void frmHandgrid::CheckForCustom() {
@@ -266,7 +254,7 @@ void frmHandgrid::ShowBonusGoal() {
 // The cards keep their size: a larger window moves the whole board to its
 // middle, the buttons to its right edge and the status bar to its foot.
 void frmHandgrid::Form_Resize() {
-    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+    if (ResizeToPlace()) PlaceBoard();
 }
 
 void frmHandgrid::PlaceBoard() {

@@ -12,15 +12,17 @@
 #include <string>
 #include <vector>
 
+#include "games/handgrid/info.h"
 #include "games/handgrid/modHandgrid.h"
 #include "suite/boardplaces.h"
+#include "suite/gameform.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
 
 namespace ch {
 
-class frmHandgrid : public Form {
+class frmHandgrid : public GameForm {
 public:
     explicit frmHandgrid(Runtime& runtime);
 
@@ -44,7 +46,7 @@ private:
     void PlaceBoard();
     void mnuTime_Click(const char* menu);
     void mnuDeck_Click(int design);
-    SettingsLayout SettingsSections();
+    SettingsLayout SettingsSections() override;
 
     // frmHandgridBoard.cpp: the grid.
     bool Deal();
@@ -65,7 +67,6 @@ private:
     void CenterScoringLabel();
     void ShowOverWrites();
     void ShowStackPicture(std::string key);
-    void Wave(const char* name) const;
 
     // frmHandgridRounds.cpp: the rounds.
     void Play();
@@ -90,11 +91,9 @@ private:
     bool HandSoundPlayed = false;
     int16_t CurrentRound = 1;
     std::string StackKey = "FULL";
-    SplashAnimation Splash;
     BoardPlaces BoardMoves;
 };
 
-void RegisterHandgrid(Runtime& runtime);
 // The rules window's text for Handgrid (rulestext.cpp).
 std::string HandgridRules();
 

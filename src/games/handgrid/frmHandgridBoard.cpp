@@ -19,10 +19,6 @@ namespace {
 int Picture(const std::string& key) { return ImageList2().indexOf(CardKey(key)); }
 }  // namespace
 
-void frmHandgrid::Wave(const char* name) const {
-    if (PlaySounds) PlayWaveFile(name);
-}
-
 // ---- A click on a cell ---------------------------------------------------------------
 
 void frmHandgrid::PlayCards_Click(int Index) {

@@ -17,8 +17,6 @@ namespace ch {
 using namespace handgrid;
 
 namespace {
-const char* const kTable = "HandgridHighScores";
-const char* const kDefaultScore = "30000";
 }  // namespace
 
 // ---- Play and End Game ------------------------------------------------------------------
@@ -33,7 +31,7 @@ void frmHandgrid::Play() {
 
 void frmHandgrid::StartGame() {
     try {
-        setMousePointer(11);
+        setMousePointer(Pointer::Hourglass);
         TakingScore = false;
         CurrentRound = 1;
         CurrentScore = 0;
@@ -64,7 +62,7 @@ void frmHandgrid::StartGame() {
         }
         if (PlayMusic) StartMusic();
         GameInProgress = true;
-        setMousePointer(0);
+        setMousePointer(Pointer::Default);
     } catch (const RuntimeError& error) {
         MsgBox(error.description(), MsgButtons::OK, MsgIcon::Critical, AppTitle);
         runtime().end();
@@ -124,7 +122,7 @@ void frmHandgrid::ShowTimerFrame(bool visible) {
 // so that input made during the change is dropped.
 void frmHandgrid::NextRound() {
     TakingScore = true;
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     if (PlayMusic) StopMusic();
     CurrentRound += 1;
 
@@ -133,7 +131,7 @@ void frmHandgrid::NextRound() {
     Control& message = c("lblMessage");
     ShowCards(false);
     ShowControls(false, true);
-    scoring.setForeColor(255);
+    scoring.setForeColor(Colour::Red);
     c("Timer1").setEnabled(false);
     CenterScoringLabel();
 
@@ -210,7 +208,7 @@ void frmHandgrid::NextRound() {
     c("Timer1").setEnabled(true);
     c("lblPointsEarned").setCaption("Points Earned: 0");
     if (PlayMusic) StartMusic();
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // The score goes to the table, "Game Over" stands for two seconds, and the
@@ -222,7 +220,7 @@ void frmHandgrid::GameOver() {
                {[this](bool v) { ShowCards(v); }, [this](bool v, bool s) { ShowControls(v, s); }, false});
     if (!loaded()) return;
     runtime().refresh();
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     ShowControls(false, false);
     CenterScoringLabel();
     scoring.setVisible(true);
@@ -232,7 +230,7 @@ void frmHandgrid::GameOver() {
     Reset(true);
     GameInProgress = false;
     c("Timer4").setEnabled(true);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // A score or a sum of hands past its 32-bit range, in a placement or in the
@@ -243,15 +241,15 @@ void frmHandgrid::EndOnError(const RuntimeError& error) {
     ShowRunTimeError(error);
     if (!loaded()) return;
     TakingScore = true;
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     if (PlayMusic) StopMusic();
     ShowCards(false);
     ShowControls(false, true);
     c("lblScoring").setVisible(false);
     c("lblMessage").setVisible(false);
-    c("lblCurrentScore").setForeColor(0xFF0000);
+    c("lblCurrentScore").setForeColor(Colour::Blue);
     Control& scoring = c("ScoringLabel");
-    scoring.setForeColor(255);
+    scoring.setForeColor(Colour::Red);
     scoring.setFont("MS Sans Serif", 18, scoring.fontBold());
     GameOver();
 }

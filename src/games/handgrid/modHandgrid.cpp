@@ -110,7 +110,7 @@ std::string OverWritesText(int remaining) { return "Over Writes Remaining: " + N
 
 int OverWritesColour(const std::string& caption) {
     const bool zero = caption.size() >= 2 && caption.compare(caption.size() - 2, 2, " 0") == 0;
-    return zero ? 255 : 0xFF0000;
+    return zero ? Colour::Red : Colour::Blue;
 }
 
 bool IsCustomScoring(const ScoringValues& values, int32_t timeBonus) {

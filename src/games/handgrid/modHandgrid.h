@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <string>
 
+#include "window/control.h"
+
 namespace ch::handgrid {
 
 constexpr int kCells = 25;          // PlayedCards(0..24), row major
@@ -39,7 +41,7 @@ constexpr int32_t kDefaultTimeBonus = 1;  // the suite's TimeBonus while Handgri
 
 // Label colours: a hand name in blue, "Nothing" in the system's button text
 // colour (the platform's 0x80000012).
-constexpr int kHandColour = 0xFF0000;
+constexpr int kHandColour = Colour::Blue;
 constexpr int kButtonTextColour = static_cast<int>(0x80000012u);
 int HandColour(const std::string& handName);
 

@@ -26,16 +26,7 @@ std::string SpireholdRules();  // rulestext.cpp
 namespace {
 using K = ControlKind;
 
-const char* const kTable = "SpireholdHiScores";
-const char* const kDefaultScore = "30000";
-const char* const kSettingsFile = "\\Spirehold.Ini";
 
-const TimeEntry kTimeEntries[] = {
-    {"mnu30", 30, "&30 seconds"},
-    {"mnu45", 45, "&45 seconds (default)"},
-    {"mnu60", 60, "&60 seconds"},
-    {"mnu90", 90, "&90 seconds "},
-};
 
 // The towers fill the top of the window; below them, from left to right, the
 // score and round boxes, the stack and the up card, the run labels, the time
@@ -125,8 +116,7 @@ void RegisterSpirehold(Runtime& runtime) {
     RegisterRules("Spirehold!", SpireholdRules);
 }
 
-frmSpirehold::frmSpirehold(Runtime& runtime) : Form(runtime, "frmSpirehold") {
-    setSize(kDesignWidth, kDesignHeight);
+frmSpirehold::frmSpirehold(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth, kDesignHeight) {
     add(Layout());
     PlaceControls(*this, kPlaces);
     PlaceControls(*this, kButtonPlaces);
@@ -167,7 +157,7 @@ frmSpirehold::frmSpirehold(Runtime& runtime) : Form(runtime, "frmSpirehold") {
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle"); });
     on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
+    BindShared();
     for (const TimeEntry& entry : kTimeEntries)
         on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
     for (int design = 1; design <= 4; ++design)
@@ -214,17 +204,17 @@ SettingsLayout frmSpirehold::SettingsSections() {
 }
 
 void frmSpirehold::Form_Load() {
-    BeginFormLoad(*this, kDefaultTimeLimit, "mnu45");
+    BeginLoad();
     Scoring = {};
     TimeBonus = kDefaultTimeBonus;
     ShowWelcome(*this);
-    ReadSettingsINI(kSettingsFile, SettingsSections());
+    ReadSettings();
     CheckForCustom();
-    CompleteFormLoad(*this, kTable, kDefaultScore);
+    CompleteLoad();
 }
 
 void frmSpirehold::Form_QueryUnload(EventArgs& args) {
-    ConfirmCloseGameWindow(*this, args, kSettingsFile, SettingsSections());
+    ConfirmClose(args);
 }
 
 void frmSpirehold::CheckForCustom() {
@@ -237,7 +227,7 @@ void frmSpirehold::CheckForCustom() {
 // of the board keeps its shape around it; the buttons keep to the right edge
 // and the status bar to the bottom.
 void frmSpirehold::Form_Resize() {
-    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+    if (ResizeToPlace()) PlaceBoard();
 }
 
 void frmSpirehold::PlaceBoard() {
@@ -273,7 +263,7 @@ void frmSpirehold::mnuDeck_Click(int design) {
 }
 
 void frmSpirehold::mnuClear_Click() {
-    ClearHighScores(*this, kTable, kDefaultScore);
+    ClearTable();
 }
 
 // A running game is paused while the question stands and resumed after it.

@@ -13,8 +13,10 @@
 #include <string>
 #include <vector>
 
+#include "games/spirehold/info.h"
 #include "games/spirehold/modSpirehold.h"
 #include "suite/boardplaces.h"
+#include "suite/gameform.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
@@ -23,7 +25,7 @@ namespace ch {
 
 class RuntimeError;
 
-class frmSpirehold : public Form {
+class frmSpirehold : public GameForm {
 public:
     explicit frmSpirehold(Runtime& runtime);
 
@@ -75,9 +77,8 @@ private:
     void ShowCardsRemaining();
     void ShowPicture(const char* name, int index, const std::string& code);
     void PlaceBoard();
-    void Wave(const char* name) const;
     bool GameRunning() const;
-    SettingsLayout SettingsSections();
+    SettingsLayout SettingsSections() override;
 
     // The board.
     std::vector<std::string> DeckCards = std::vector<std::string>(spirehold::kDeckCardsSize);
@@ -91,11 +92,9 @@ private:
     int32_t TowersCompleted = 0;
     bool NewHighRun = false;
     int16_t CurrentRound = 1;
-    SplashAnimation Splash;
     BoardPlaces BoardMoves;
     BoardPlaces Buttons;  // 1320 twips in from the right edge
 };
 
-void RegisterSpirehold(Runtime& runtime);
 
 }  // namespace ch

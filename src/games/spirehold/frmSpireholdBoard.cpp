@@ -119,7 +119,7 @@ void frmSpirehold::lblCurrentRun_Change() {
 // top of its 16-bit range StackIndex can't be raised, and stays.
 void frmSpirehold::CardStackPicture_Click() {
     if (TakingScore) return;
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     RunValue = 0;
     CurrentRun = 0;
     c("lblCurrentRun").setCaption("Current Run: " + NumText(CurrentRun));
@@ -134,7 +134,7 @@ void frmSpirehold::CardStackPicture_Click() {
         Wave("\\Chord.wav");
     else
         c("CardStackPicture").setPicture(ImageList2().indexOf(stage));
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 void frmSpirehold::UpCardPicture_Click() { Wave("\\Chord.wav"); }
@@ -187,10 +187,6 @@ void frmSpirehold::ShowCardsRemaining() { c("lblCards").setCaption(NumText(Cards
 
 void frmSpirehold::ShowPicture(const char* name, int index, const std::string& code) {
     c(name, index).setPicture(ImageList2().indexOf(CardKey(code)));
-}
-
-void frmSpirehold::Wave(const char* name) const {
-    if (PlaySounds) PlayWaveFile(name);
 }
 
 }  // namespace ch

@@ -16,10 +16,7 @@ namespace ch {
 using namespace spirehold;
 
 namespace {
-const char* const kTable = "SpireholdHiScores";
-const char* const kDefaultScore = "30000";
 const char* const kEndsCurrentTip = "Ends the current game";
-constexpr int kRed = 255;
 }  // namespace
 
 // ---- Play and End Game ------------------------------------------------------------
@@ -114,9 +111,9 @@ void frmSpirehold::cmdPause_Click() {
 
 void frmSpirehold::Timer1_Timer() {
     if (!RoundClockRunsOut(*this)) return;
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     ShowCards(false, false);
-    if (TimesUpThenScore(*this, [this] { cmdTakeScore_Click(); })) setMousePointer(0);
+    if (TimesUpThenScore(*this, [this] { cmdTakeScore_Click(); })) setMousePointer(Pointer::Default);
 }
 
 // ---- The end of a round ------------------------------------------------------------------
@@ -137,12 +134,12 @@ void frmSpirehold::EndOnError(const RuntimeError& error) {
 void frmSpirehold::TakeScore() {
     TakingScore = true;
     for (const char* name : {"cmdTakeScore", "cmdPlay", "cmdPause", "cmdExit"}) c(name).setEnabled(false);
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     ShowCards(false, false);
     if (PlayMusic) StopMusic();
     CurrentRound += 1;
     Control& message = c("lblMessage");
-    message.setForeColor(kRed);
+    message.setForeColor(Colour::Red);
     message.setVisible(true);
 
     if (TimeLimit - ElapsedSeconds > 0) {
@@ -159,7 +156,7 @@ void frmSpirehold::TakeScore() {
     HighRunScore();
 
     if (CurrentRound == 2) {
-        message.setForeColor(kRed);
+        message.setForeColor(Colour::Red);
         message.setVisible(true);
         message.setCaption("Prepare for Round Two!");
         BlinkLabel(message, 11, 250);
@@ -176,23 +173,23 @@ void frmSpirehold::TakeScore() {
     }
     if (!loaded()) return;
     c("lblScoring").setVisible(false);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 void frmSpirehold::GameOver() {
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     FinishGame(*this, kTable, kDefaultScore,
                {[this](bool v) { ShowCards(v); }, [this](bool v, bool s) { ShowControls(v, s); }});
     if (!loaded()) return;
     HideTowerLabels();
     Control& message = c("lblMessage");
-    message.setForeColor(kRed);
+    message.setForeColor(Colour::Red);
     c("cmdPlay").setToolTipText(kStartsTip);
     message.setCaption(kGameOver);
     runtime().refresh();
     Sleep(2000);
     ShowSplash(*this, true);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
     c("cmdPlay").setEnabled(true);
     c("cmdExit").setEnabled(true);
 }

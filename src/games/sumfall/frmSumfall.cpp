@@ -30,7 +30,6 @@ namespace {
 using K = ControlKind;
 constexpr int kCardWidth = frmSumfall::kCardWidth;
 constexpr int kCardHeight = frmSumfall::kCardHeight;
-constexpr auto& kTimeEntries = frmSumfall::kTimeEntries;
 constexpr auto& kGoalMenus = frmSumfall::kGoalMenus;
 
 const char* const kGoalCaptions[6] = {"1&0", "1&1 (Default)", "1&2", "1&3", "1&4", "1&5"};
@@ -136,8 +135,7 @@ void RegisterSumfall(Runtime& runtime) {
     RegisterRules("Sumfall!", SumfallRules);
 }
 
-frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
-    setSize(kDesignWidth, kDesignHeight);
+frmSumfall::frmSumfall(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth, kDesignHeight) {
     add(Layout());
     PlaceControls(*this, kStandingPlaces);
     PrepareStandingControls(*this);
@@ -148,14 +146,14 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
     for (int i = 0; i < kFieldPlaces; ++i) {
         Control& card = c("FieldCardPicture", i);
         card.setVisible(false);
-        card.setMousePointer(99);
+        card.setMousePointer(Pointer::Custom);
         card.setBorderStyle(1);
         card.setToolTipText(NumText(kField[static_cast<size_t>(i)].points) + " points");
         c("FieldSelectionRectangle", i).setVisible(false);
         c("FieldSelectionRectangle", i).setBorderStyle(1);
     }
     for (const char* name : {"PlayCardPicture", "UpCardPicture"}) {
-        c(name).setMousePointer(99);
+        c(name).setMousePointer(Pointer::Custom);
         c(name).setVisible(false);
     }
     c("UpCardPicture").setToolTipText("100 points");
@@ -163,8 +161,8 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
     c("UpCardSelectionRectangle").setBorderStyle(1);
     c("lblCardCount").setVisible(false);
     for (const char* name : {"lblCurrentElevens", "lblCurrentTotal"}) {
-        c(name).setAlignment(2);
-        c(name).setForeColor(0xFF0000);
+        c(name).setAlignment(Align::Center);
+        c(name).setForeColor(Colour::Blue);
     }
     CardTotalVisible(false);
     // The messages stand over the field.
@@ -212,7 +210,7 @@ frmSumfall::frmSumfall(Runtime& runtime) : Form(runtime, "frmSumfall") {
     on("PlayCardPicture", Ev::Click, guarded([this](EventArgs&) { PlayCardPicture_Click(); }));
     on("PlayCardPicture", Ev::MouseMove, [this](EventArgs&) { PlayCardPicture_MouseMove(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash, SplashFace::Sumfall);
+    BindShared({.face = {ImageCatalogue::kSumfallSplash}});
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { lblCurrentScore_Change(); });
     on("lblMessage", Ev::Change, [this](EventArgs&) { lblMessage_Change(); });
     on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
@@ -296,7 +294,7 @@ SettingsLayout frmSumfall::SettingsSections() {
 }
 
 void frmSumfall::Form_Load() {
-    BeginFormLoad(*this, 90, "mnu90");
+    BeginLoad();
     CountDownScore = true;
     CardGoal = kDefaultCardGoal;
     Scoring = {};
@@ -307,8 +305,8 @@ void frmSumfall::Form_Load() {
     c(kSelectionColours[kDefaultSelectionColour].menu).setChecked(true);
     c("lblElevens").setCaption(CardGoalWord(CardGoal));
     ShowWelcome(*this);
-    ReadSettingsINI(kSettingsFile, SettingsSections());
-    CompleteFormLoad(*this, kTable, kDefaultScore);
+    ReadSettings();
+    CompleteLoad();
 }
 
 // A saved game named on the command line is opened the first time the window
@@ -323,13 +321,13 @@ void frmSumfall::Form_QueryUnload(EventArgs& args) {
     const bool pauseFirst = GameInProgress && c("cmdPause").caption() == kPauseCaption &&
                             c("lblMessage").caption() != kGameOver;
     if (pauseFirst) cmdPause_Click();
-    ConfirmCloseGameWindow(*this, args, pauseFirst, [this] { cmdPause_Click(); }, kSettingsFile, SettingsSections());
+    ConfirmClose(args, pauseFirst, [this] { cmdPause_Click(); });
 }
 
 // The cards keep their size: a resize only places the board around the
 // middle of the window, the buttons at its right edge.
 void frmSumfall::Form_Resize() {
-    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+    if (ResizeToPlace()) PlaceBoard();
 }
 
 void frmSumfall::PlaceBoard() {
@@ -355,7 +353,7 @@ void frmSumfall::ShowScore() { c("lblCurrentScore").setCaption(FormatScore(Curre
 
 void frmSumfall::lblCurrentScore_Change() {
     CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle");
-    c("lblCurrentScore").setForeColor(CurrentScore < 0 ? 255 : 0xFF0000);
+    c("lblCurrentScore").setForeColor(CurrentScore < 0 ? Colour::Red : Colour::Blue);
 }
 
 // "Times Up!" and "Game Paused" stand at the piles, the rest over the field;
@@ -407,7 +405,7 @@ void frmSumfall::mnuDrawTimer_Click() {
 }
 
 void frmSumfall::mnuClear_Click() {
-    ClearHighScores(*this, kTable, kDefaultScore);
+    ClearTable();
 }
 
 }  // namespace ch

@@ -14,22 +14,21 @@
 #include <string>
 #include <vector>
 
+#include "games/sumfall/info.h"
 #include "games/sumfall/modSumfall.h"
 #include "suite/boardplaces.h"
+#include "suite/gameform.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
 
 namespace ch {
 
-class frmSumfall : public Form {
+class frmSumfall : public GameForm {
 public:
     explicit frmSumfall(Runtime& runtime);
 
     // The window's fixed names, sizes and entries.
-    static constexpr const char* kTable = "HiScores";
-    static constexpr const char* kDefaultScore = "50000";
-    static constexpr const char* kSettingsFile = "\\Sumfall.Ini";
     static constexpr int kDesignWidth = 9540;
     static constexpr int kDesignHeight = 7200;
     static constexpr int kCardWidth = 1065;
@@ -37,10 +36,6 @@ public:
     static constexpr const char* kTakeScoreCaption = "&Take Score";
     static constexpr const char* kReplayCaption = "&Replay";
     static constexpr const char* kReplayTip = "Replays the last game";
-    static constexpr TimeEntry kTimeEntries[] = {
-        {"mnu30", 30, "&30 seconds"},    {"mnu60", 60, "&60 seconds"},    {"mnu90", 90, "&90 seconds (default)"},
-        {"mnu120", 120, "1&20 seconds"}, {"mnu150", 150, "1&50 seconds"}, {"mnu180", 180, "1&80 seconds"},
-    };
     static constexpr const char* kGoalMenus[6] = {"mnu10", "mnu11", "mnu12", "mnu13", "mnu14", "mnu15"};
 
     // Scoring values; the custom scoring dialog writes them (TimeBonus is shared).
@@ -113,8 +108,7 @@ private:
     void ClearColorCheck();
     void ShowScore();
     void PlaceBoard();
-    void Wave(const char* name) const;
-    SettingsLayout SettingsSections();
+    SettingsLayout SettingsSections() override;
 
     // The picture of a card code; a code with no picture (an empty slot of a
     // damaged saved game) is an error, as the catalogue's lookup always was.
@@ -140,11 +134,9 @@ private:
     bool ReplayPending = false;
     // Sumfall counts its scores visibly by a switch of its own, not the shared one.
     bool CountDownScore = true;
-    SplashAnimation Splash;
     BoardPlaces BoardMoves;  // relative to the point the window's size gives
 };
 
-void RegisterSumfall(Runtime& runtime);
 // The rules window's text, from the open window's live values.
 std::string SumfallRules();
 

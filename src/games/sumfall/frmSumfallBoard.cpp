@@ -236,7 +236,7 @@ void frmSumfall::PlayCardPicture_Click() {
         if (!UpCardUsed) Wave("\\Chord.wav");
         return;
     }
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     if (UpCardIndex > 0) MoveUpCardToFieldArea();
     if (!UpCardUsed) Wave("\\Markq.wav");
     Control& up = c("UpCardPicture");
@@ -260,7 +260,7 @@ void frmSumfall::PlayCardPicture_Click() {
         AddToScore(-kFlipCost);
         ShowScore();
     }
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // An up card passed over falls back into the highest free field place.
@@ -380,7 +380,4 @@ void frmSumfall::ClearColorCheck() {
 }
 
 
-void frmSumfall::Wave(const char* name) const {
-    if (PlaySounds) PlayWaveFile(name);
-}
 }  // namespace ch

@@ -52,7 +52,7 @@ void frmSumfall::cmdPlay_Click(bool fromMenu) {
 }
 
 void frmSumfall::Play() {
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     bool ok = true;
     if (ReplayPending) {
         for (size_t i = 1; i < Deck.size() && i < Round1Deck.size(); ++i) Deck[i] = Round1Deck[i];
@@ -81,7 +81,7 @@ void frmSumfall::Play() {
         runtime().unload(*this);
         if (!loaded()) return;
     }
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 void frmSumfall::cmdPause_Click() {
@@ -143,7 +143,7 @@ void frmSumfall::TakeScore() {
     Control& score = c("lblCurrentScore");
     TakingScore = true;
     c("Timer1").setEnabled(false);
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     if (PlayMusic) StopMusic();
 
     DisableCommandButtons(true);
@@ -158,12 +158,12 @@ void frmSumfall::TakeScore() {
         message.setCaption("Completion Bonus! " + NumText(Scoring.CompletionBonus));
         message.setVisible(true);
         runtime().refresh();
-        score.setForeColor(0xFFFF00);
+        score.setForeColor(Colour::Cyan);
         Sleep(1000);
         if (CountDownScore) {
             const int32_t step = Scoring.CompletionBonus / 10;
             for (int i = 0; i < 10; ++i) {
-                message.setForeColor(message.foreColor() == 255 ? 0 : 255);
+                message.setForeColor(message.foreColor() == Colour::Red ? Colour::Black : Colour::Red);
                 CountStep(*this, step);
             }
         } else {
@@ -182,8 +182,8 @@ void frmSumfall::TakeScore() {
                            NumText(CLng(static_cast<double>(Scoring.CombinationBonus) * CombinationCount)));
         message.setVisible(true);
         runtime().refresh();
-        score.setForeColor(0xFFFF00);
-        combinations.setForeColor(0xFFFF00);
+        score.setForeColor(Colour::Cyan);
+        combinations.setForeColor(Colour::Cyan);
         if (CountDownScore) {
             while (CombinationCount > 0) {
                 CountStep(*this, Scoring.CombinationBonus, [&] {
@@ -199,7 +199,7 @@ void frmSumfall::TakeScore() {
             Sleep(1000);
         }
     }
-    combinations.setForeColor(0xFF0000);
+    combinations.setForeColor(Colour::Blue);
 
     const int left = TimeLimit - ElapsedSeconds;
     if (left >= 1) {
@@ -207,17 +207,17 @@ void frmSumfall::TakeScore() {
         message.setCaption("Speed Bonus! " + NumText(CLng(static_cast<double>(left) * TimeBonus)));
         message.setVisible(true);
         runtime().refresh();
-        score.setForeColor(0xFFFF00);
+        score.setForeColor(Colour::Cyan);
         Sleep(1000);
         if (!CountDownScore) {
             ElapsedSeconds = TimeLimit;
             AddToScore(static_cast<long long>(left) * TimeBonus);
             DrawTimeDial(0, *this);
-            score.setForeColor(255);
+            score.setForeColor(Colour::Red);
             ShowScore();
             runtime().refresh();
             Sleep(1000);
-            score.setForeColor(0);
+            score.setForeColor(Colour::Black);
         } else {
             CountClockSeconds(*this, TimeBonus);
         }
@@ -293,13 +293,13 @@ void frmSumfall::GameOver() {
     // The caption's Change places the label again, over the field.
     message.setTop(height() / 2);
     message.setCaption(kGameOver);
-    message.setForeColor(255);
-    setMousePointer(11);
+    message.setForeColor(Colour::Red);
+    setMousePointer(Pointer::Hourglass);
     message.setVisible(true);
     runtime().refresh();
     Sleep(2000);
     message.setVisible(false);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 
     ShowSplash(*this, true);
     c("cmdExit").setEnabled(true);
@@ -325,11 +325,11 @@ void frmSumfall::CloseScoring() {
     Control& score = c("lblCurrentScore");
     Control& message = c("lblMessage");
     ElapsedSeconds = 0;
-    score.setForeColor(0xFF0000);
-    message.setForeColor(255);
+    score.setForeColor(Colour::Blue);
+    message.setForeColor(Colour::Red);
     SelRectangle(false);
     CardTotalVisible(true);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // A score past its 32-bit range: the platform's message, then the game ends
@@ -341,7 +341,7 @@ void frmSumfall::EndOnError(const RuntimeError& error) {
     if (PlayMusic) StopMusic();
     DisableCommandButtons(true);
     c("lblMessage").setVisible(false);
-    c("lblCurrentElevens").setForeColor(0xFF0000);
+    c("lblCurrentElevens").setForeColor(Colour::Blue);
     TakingScore = false;
     UpCardUsed = false;
     GameOver();

@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "window/basic.h"
+#include "window/control.h"
 
 namespace ch::sumfall {
 
@@ -77,12 +78,12 @@ std::string CardGoalName(int cardGoal) {
 }
 
 const std::array<SelectionColour, 6> kSelectionColours = {{
-    {"mnuYellow", "&Yellow", 65535},
-    {"mnuRed", "&Red (Default)", 255},
-    {"mnuBlue", "&Blue", 0xFF0000},
-    {"mnuGreen", "&Green", 49152},
-    {"mnuPurple", "&Purple", 0x800080},
-    {"mnuBlack", "&Black", 0},
+    {"mnuYellow", "&Yellow", Colour::Yellow},
+    {"mnuRed", "&Red (Default)", Colour::Red},
+    {"mnuBlue", "&Blue", Colour::Blue},
+    {"mnuGreen", "&Green", Colour::Green},
+    {"mnuPurple", "&Purple", Colour::Purple},
+    {"mnuBlack", "&Black", Colour::Black},
 }};
 
 const char* PlayPileKey(int cardsLeft) {

@@ -26,12 +26,6 @@ using namespace treyshift;
 namespace {
 using K = ControlKind;
 
-const char* const kSettingsFile = "\\Treyshift.Ini";
-const TimeEntry kTimeEntries[] = {
-    {"mnu60", 60, "&60 seconds"},   {"mnu75", 75, "&75 seconds"},   {"mnu90", 90, "&90 seconds"},
-    {"mnu105", 105, "&105 seconds"}, {"mnu120", 120, "1&20 seconds (default)"}, {"mnu135", 135, "1&35 seconds"},
-    {"mnu150", 150, "1&50 seconds"}, {"mnu180", 180, "1&80 seconds"},
-};
 
 // The window's design size; every card keeps its size at any window size.
 constexpr int kDesignWidth = 9540;
@@ -106,8 +100,7 @@ std::vector<ControlSpec> Layout() {
 
 }  // namespace
 
-frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
-    setSize(kDesignWidth, kDesignHeight);
+frmTreyshift::frmTreyshift(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth, kDesignHeight) {
     add(Layout());
     for (const char* name : kRightColumn) RightColumn.add(c(name));
     for (const char* name : kBoardArrays)
@@ -123,21 +116,21 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
     SetGameTimers(*this, timers);
     c("cmdTakeScore").setToolTipText("Ends the round and awards points");
     for (int i = 0; i < kFieldSlots; ++i) {
-        c("PlayCardSelection", i).setBorderColor(255);
+        c("PlayCardSelection", i).setBorderColor(Colour::Red);
         c("PlayCardSelection", i).setBorderStyle(1);
     }
     for (int i = 0; i < 3; ++i) {
-        c("TempCardSelection", i).setBorderColor(0xFF0000);
+        c("TempCardSelection", i).setBorderColor(Colour::Blue);
         c("TempCardSelection", i).setBorderStyle(1);
     }
-    c("UpCardSelection").setBorderColor(255);
+    c("UpCardSelection").setBorderColor(Colour::Red);
     c("UpCardSelection").setBorderStyle(1);
-    for (const char* name : {"lblScoreTrips", "lblScoreRuns", "lblFieldCards"}) c(name).setAlignment(2);
-    for (const char* name : {"lblScoreTrips", "lblScoreRuns"}) c(name).setForeColor(0xFF0000);
+    for (const char* name : {"lblScoreTrips", "lblScoreRuns", "lblFieldCards"}) c(name).setAlignment(Align::Center);
+    for (const char* name : {"lblScoreTrips", "lblScoreRuns"}) c(name).setForeColor(Colour::Blue);
     Control& flush = c("lblFlush");
-    flush.setForeColor(255);
+    flush.setForeColor(Colour::Red);
     flush.setFont("MS Sans Serif", 8, true);
-    flush.setAlignment(2);
+    flush.setAlignment(Align::Center);
     flush.setVisible(false);
     c("ScoringLabelOutline").setVisible(false);
     c("ScoringLabelOutline").setBorderStyle(1);
@@ -163,10 +156,7 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : Form(runtime, "frmTreyshift") {
         if (!TakingScore) cmdTakeScore_Click();
     });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindSharedHandlers(*this, Splash, SplashFace::RandomFace);
-    on("cmdQuit", Ev::Click, [this](EventArgs&) {
-        if (!TakingScore) this->runtime().unload(*this);
-    });
+    BindShared({.quitWaitsForScore = true});
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreIn("lblCurrentScore", "ScoreRectangle"); });
     on("lblScoreTrips", Ev::Change, [this](EventArgs&) { CentreIn("lblScoreTrips", "TripsRectangle"); });
     on("lblScoreRuns", Ev::Change, [this](EventArgs&) { CentreIn("lblScoreRuns", "RunRectangle"); });
@@ -232,24 +222,24 @@ SettingsLayout frmTreyshift::SettingsSections() {
 }
 
 void frmTreyshift::Form_Load() {
-    BeginFormLoad(*this, kDefaultTimeLimit, "mnu120");
+    BeginLoad();
     Scoring = kDefaults;
     TimeBonus = kDefaultTimeBonus;
     ShowWelcome(*this);
-    ReadSettingsINI(kSettingsFile, SettingsSections());
+    ReadSettings();
     CheckForCustom();
-    CompleteFormLoad(*this, kTable, kTableDefault);
+    CompleteLoad();
 }
 
 // The clock runs on while the question stands.
 void frmTreyshift::Form_QueryUnload(EventArgs& args) {
-    ConfirmCloseGameWindow(*this, args, false, nullptr, kSettingsFile, SettingsSections());
+    ConfirmClose(args, false, nullptr);
 }
 
 // The cards keep their size: a resize keeps the board in the middle of the
 // window, the buttons and boxes at its right edge, the status bar at the bottom.
 void frmTreyshift::Form_Resize() {
-    if (ResizeToPlace(*this, kDesignWidth, kDesignHeight)) PlaceBoard();
+    if (ResizeToPlace()) PlaceBoard();
 }
 
 void frmTreyshift::PlaceBoard() {
@@ -282,7 +272,7 @@ void frmTreyshift::mnuDeck_Click(int design) {
 }
 
 void frmTreyshift::mnuClear_Click() {
-    ClearHighScores(*this, kTable, kTableDefault);
+    ClearTable();
 }
 
 void frmTreyshift::CheckForCustom() {

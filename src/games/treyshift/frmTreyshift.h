@@ -15,16 +15,18 @@
 #include <cstdint>
 #include <string>
 
+#include "games/treyshift/info.h"
 #include "games/treyshift/modTreyshift.h"
 #include "games/treyshift/modTreyshiftBoard.h"
 #include "suite/boardplaces.h"
+#include "suite/gameform.h"
 #include "suite/gamewindow.h"
 #include "suite/settings.h"
 #include "window/form.h"
 
 namespace ch {
 
-class frmTreyshift : public Form {
+class frmTreyshift : public GameForm {
 public:
     explicit frmTreyshift(Runtime& runtime);
 
@@ -42,7 +44,7 @@ private:
     void mnuTime_Click(const char* menu);
     void mnuDeck_Click(int design);
     void mnuClear_Click();
-    SettingsLayout SettingsSections();
+    SettingsLayout SettingsSections() override;
 
     // ---- frmTreyshiftBoard.cpp
     void ShowBoard();
@@ -81,7 +83,6 @@ private:
     void CentreIn(const char* label, const char* rectangle);
     void FitLabel(const char* label);
     void ShowScore();
-    void Wave(const char* name) const;
     int ScaleWidth() const;
 
     treyshift::Board Board;
@@ -90,12 +91,10 @@ private:
     int16_t CurrentRound = 1;
     bool EndingRound = false;  // a round is being scored
     long RoundEnds = 0;        // rounds scored since the window was made
-    SplashAnimation Splash;
     BoardPlaces BoardMoves;
     BoardPlaces RightColumn;
 };
 
-void RegisterTreyshift(Runtime& runtime);
 // The rules window's text from the live settings (rulestext.cpp).
 std::string TreyshiftRules();
 

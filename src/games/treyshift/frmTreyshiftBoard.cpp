@@ -138,7 +138,7 @@ void frmTreyshift::ShowControls(bool showBoard, bool showScore) {
 }
 
 void frmTreyshift::NoMovesLeft() {
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     for (int i = 0; i < kUpSlots; ++i) c("UpCard", i).setVisible(false);
     c("CardStackPicture").setVisible(false);
     ShowControls(false, true);

@@ -79,7 +79,7 @@ std::vector<std::string> Texts(const ScoringValues& v, int32_t timeBonus) {
 frmTreyshiftCustom::frmTreyshiftCustom(Runtime& runtime) : Form(runtime, "frmTreyshiftCustom") {
     setSize(6600, 6180);
     add(Layout());
-    c("txtPenaltyValue").setForeColor(255);
+    c("txtPenaltyValue").setForeColor(Colour::Red);
     BindScoringDialog(
         *this, [this] { Form_Load(); }, [this] { cmdOK_Click(); }, [this] { cmdDefault_Click(); }, true);
     for (const ScoringField& f : kFields) SelectAllOnFocus(*this, f.box);

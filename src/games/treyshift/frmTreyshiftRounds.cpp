@@ -108,7 +108,7 @@ void frmTreyshift::cmdPause_Click() {
 // seconds left to pay.
 void frmTreyshift::Timer1_Timer() {
     if (!RoundClockRunsOut(*this)) return;
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     for (int i = 0; i < kUpSlots; ++i) c("UpCard", i).setVisible(false);
     for (const char* name : {"UpCardSelection", "CardStackPicture", "lblCardCount"}) c(name).setVisible(false);
     Control& scoring = c("lblScoring");
@@ -123,7 +123,7 @@ void frmTreyshift::Timer1_Timer() {
     cmdTakeScore_Click();
     if (!loaded()) return;
     if (c("lblMessage").caption() != kGameOver) c("lblMessage").setVisible(false);
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // One round end at a time, whatever order the waiting events are served in:
@@ -159,7 +159,7 @@ void frmTreyshift::EndOnError(const RuntimeError& error) {
     ClearOutlines(Board);
     ShowPlaces();
     for (const char* name : {"lblMessage", "lblScoring", "ScoringLabelOutline"}) c(name).setVisible(false);
-    c("lblCurrentScore").setForeColor(0xFF0000);
+    c("lblCurrentScore").setForeColor(Colour::Blue);
     GameOver();
 }
 
@@ -170,9 +170,9 @@ void frmTreyshift::EndOnError(const RuntimeError& error) {
 void frmTreyshift::EndRound() {
     Control& scoring = c("lblScoring");
     Control& message = c("lblMessage");
-    setMousePointer(11);
+    setMousePointer(Pointer::Hourglass);
     c("Timer1").setEnabled(false);
-    scoring.setForeColor(0xFF0000);
+    scoring.setForeColor(Colour::Blue);
     if (PlayMusic) StopMusic();
     ShowControls(false, true);
 
@@ -213,7 +213,7 @@ void frmTreyshift::EndRound() {
         GameOver();
         return;
     }
-    scoring.setForeColor(255);
+    scoring.setForeColor(Colour::Red);
     CurrentRound += 1;
     scoring.setCaption(PrepareText(CurrentRound));
     CenterScoringLabel();
@@ -233,7 +233,7 @@ void frmTreyshift::EndRound() {
     c("lblRound").setCaption("Round: " + NumText(CurrentRound));
     c("lblTime").setCaption("Time: " + NumText(TimeLimit));
     if (PlayMusic) StartMusic();
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // The score goes to the table, the board goes, "Game Over" stands a second,
@@ -252,7 +252,7 @@ void frmTreyshift::GameOver() {
     ResetDial();
     c("cmdPlay").setToolTipText(kStartsTip);
     ShowCards(false);
-    scoring.setForeColor(0xFF0000);
+    scoring.setForeColor(Colour::Blue);
     scoring.setCaption(kGameOver);
     CenterScoringLabel();
     scoring.setVisible(true);
@@ -263,7 +263,7 @@ void frmTreyshift::GameOver() {
     c("ScoringLabelOutline").setVisible(false);
     ShowSplash(*this, true);
     runtime().refresh();
-    setMousePointer(0);
+    setMousePointer(Pointer::Default);
 }
 
 // After the deck is used up every card left in the field and in storage
@@ -383,10 +383,6 @@ void frmTreyshift::CentreIn(const char* label, const char* rectangle) {
 void frmTreyshift::FitLabel(const char* label) { FitLabelToText(c(label)); }
 
 void frmTreyshift::ShowScore() { c("lblCurrentScore").setCaption(FormatScore(CurrentScore)); }
-
-void frmTreyshift::Wave(const char* name) const {
-    if (PlaySounds && *name) PlayWaveFile(name);
-}
 
 // The inner width of the window, inside its borders.
 int frmTreyshift::ScaleWidth() const { return width() - 120; }

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "suite/gameform.h"
+
+#include "suite/common.h"
+#include "suite/highscores.h"
+#include "suite/sound.h"
+#include "suite/windowsteps.h"
+
+namespace ch {
+
+GameForm::GameForm(Runtime& runtime, const GameInfo& game, int designWidth, int designHeight)
+    : Form(runtime, game.form), game_(game), designWidth_(designWidth), designHeight_(designHeight) {
+    setSize(designWidth, designHeight);
+}
+
+void GameForm::BindShared(const SharedHandlerPoints& points) { BindSharedHandlers(*this, Splash, points); }
+
+void GameForm::BeginLoad(int16_t deckDesign) { BeginFormLoad(*this, game_, deckDesign); }
+
+void GameForm::CompleteLoad() { CompleteFormLoad(*this, game_.tableName, game_.defaultScore); }
+
+bool GameForm::ShowTableTop() { return ShowHighScore(game_.tableName, *this, game_.defaultScore); }
+
+void GameForm::ClearTable() { ClearHighScores(*this, game_.tableName, game_.defaultScore); }
+
+void GameForm::Wave(const char* name) const {
+    if (PlaySounds && *name) PlayWaveFile(name);
+}
+
+bool GameForm::ResizeToPlace() { return ch::ResizeToPlace(*this, designWidth_, designHeight_); }
+
+void GameForm::ReadSettings() { ReadSettingsINI(game_.settingsFile, SettingsSections()); }
+
+void GameForm::ConfirmClose(EventArgs& args) {
+    ConfirmCloseGameWindow(*this, args, game_.settingsFile, SettingsSections());
+}
+
+void GameForm::ConfirmClose(EventArgs& args, bool pausedFirst, const std::function<void()>& pauseHandler) {
+    ConfirmCloseGameWindow(*this, args, pausedFirst, pauseHandler, game_.settingsFile, SettingsSections());
+}
+
+}  // namespace ch
