@@ -15,7 +15,7 @@ target_link_options(cardhaven-script PRIVATE
 # The suite itself, run by web/worker.js. The worker blocks in Atomics.wait
 # on memory it shares with the page; the module's own memory is not shared.
 add_executable(cardhaven-web
-  src/web/main.cpp src/web/webplatform.cpp src/web/snapjson.cpp src/qt/snapshot.cpp)
+  src/web/main.cpp src/web/webplatform.cpp src/web/snapjson.cpp)
 target_link_libraries(cardhaven-web PRIVATE cardhaven_logic)
 target_link_options(cardhaven-web PRIVATE
   -sENVIRONMENT=worker -sMODULARIZE=1 -sEXPORT_NAME=CardHavenModule -sALLOW_MEMORY_GROWTH=1

@@ -86,10 +86,13 @@ export class Renderer {
   }
 
   // `taken`: the number of the last input line the logic had taken when it
-  // made this snapshot.
+  // made this snapshot. A snapshot carries only what changed: a form marked
+  // `same` is kept as it stands, any other brings its header and the
+  // controls that changed.
   apply(forms, taken = Infinity) {
     this.taken = taken;
     const live = new Set();
+    let shown = false;
     for (const f of forms) {
       live.add(f.name);
       let w = this.windows.get(f.name);
@@ -98,19 +101,23 @@ export class Renderer {
         this.windows.delete(f.name);
         w = null;
       }
+      if (f.same) continue;
       if (!w) {
         w = this.createWindow(f);
         this.windows.set(f.name, w);
       }
       this.applyWindow(w, f);
+      shown = true;
     }
+    let gone = false;
     for (const [name, w] of this.windows) {
       if (!live.has(name)) {
         w.el.remove();
         this.windows.delete(name);
+        gone = true;
       }
     }
-    this.updateModal();
+    if (shown || gone) this.updateModal();
   }
 
   createWindow(f) {
@@ -194,28 +201,27 @@ export class Renderer {
     if (f.back !== last.back) w.client.style.background = rgb(f.back);
     if (f.pointer !== last.pointer) w.el.classList.toggle('busy', f.pointer === 11);
     if (f.enabled !== last.enabled) w.el.classList.toggle('disabled', !f.enabled);
-    // A control the worker sent before comes as its key and revision alone.
-    const snaps = [];
-    const latest = new Map();
-    for (const c of f.controls) {
-      const s = c.kind === undefined ? w.snaps.get(c.key) : c;
-      if (!s) continue;
-      snaps.push(s);
-      latest.set(s.key, s);
-    }
-    w.snaps = latest;
-    const hasMenu = snaps.some((s) => s.kind === 'menu');
-    if (hasMenu !== w.hasMenu) w.menubar.hidden = !hasMenu;
-    w.hasMenu = hasMenu;
-    this.applyMenus(w, snaps.filter((s) => s.kind === 'menu'));
-    for (const s of snaps) {
-      if (s.kind === 'menu') continue;
+    // Every control the first time, then those that changed.
+    let menus = false;
+    for (const s of f.controls) {
+      w.snaps.set(s.key, s);
+      if (s.kind === 'menu') {
+        menus = true;
+        continue;
+      }
       let c = w.controls.get(s.key);
       if (!c) {
         c = this.createControl(w, s);
         w.controls.set(s.key, c);
       }
-      if (c.snap !== s) this.applyControl(w, c, s);
+      this.applyControl(w, c, s);
+    }
+    if (menus || !w.menus) {
+      w.menus = [...w.snaps.values()].filter((s) => s.kind === 'menu');
+      const hasMenu = w.menus.length > 0;
+      if (hasMenu !== w.hasMenu) w.menubar.hidden = !hasMenu;
+      w.hasMenu = hasMenu;
+      this.applyMenus(w, w.menus);
     }
     if (f.state !== w.state) {
       w.state = f.state;

@@ -107,7 +107,7 @@ void QtPlatform::openMessageBox(const MessageBox& box) {
 }
 
 void QtPlatform::present(Runtime& runtime) {
-    loadedForms_.store(static_cast<int>(runtime.loadedForms().size()));
+    loadedForms_.store(static_cast<int>(runtime.loadedCount()));
     if (runtime.revision() == presented_) return;
     presented_ = runtime.revision();
     std::shared_ptr<const Snapshot> snapshot = taker_.take(runtime);

@@ -15,7 +15,7 @@
 #include <mutex>
 #include <string>
 
-#include "qt/snapshot.h"
+#include "window/snapshot.h"
 #include "window/platform.h"
 
 class QObject;

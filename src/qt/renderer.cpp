@@ -64,7 +64,7 @@ public:
         renderer_->send(event);
     }
     int formPointer() const { return formPointer_; }
-    QCursor cursorFor(int pointer, int icon) const;
+    QCursor cursorFor(int pointer, int icon);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -89,13 +89,17 @@ private:
     std::map<std::string, std::unique_ptr<View>> views_;
     std::vector<View*> ordered_;
     std::string menuShape_;
+    std::vector<ControlSnap> menus_;  // as last sent, in the form's order
     std::map<std::string, QAction*> actions_;
     bool hasMenu_ = false;
     int modelWidth_ = -1, modelHeight_ = -1, modelState_ = -1;
     QSize appliedClient_;
     bool placed_ = false;
     bool modal_ = false;
+    bool modalitySet_ = false;
     int formPointer_ = 0;
+    int formIcon_ = -1;
+    std::map<int, QCursor> iconCursors_;  // pointer 99, by catalogue entry
     std::vector<View*> stacked_;
     View* statusBar_ = nullptr;
 };
@@ -123,7 +127,7 @@ FormWindow::~FormWindow() {
     views_.clear();
 }
 
-QCursor FormWindow::cursorFor(int pointer, int icon) const {
+QCursor FormWindow::cursorFor(int pointer, int icon) {
     switch (pointer) {
         case 1: return Qt::ArrowCursor;
         case 2: return Qt::CrossCursor;
@@ -133,10 +137,14 @@ QCursor FormWindow::cursorFor(int pointer, int icon) const {
         case 12: return Qt::ForbiddenCursor;
         case 99: {
             if (icon <= 0) return Qt::ArrowCursor;
-            const qreal ratio = devicePixelRatioF();
-            QPixmap pixmap = CardPixmap(icon, 32, 32, ratio);
-            const bool hand = icon == ImageCatalogue::kPointer;
-            return QCursor(pixmap, hand ? 9 : 0, hand ? 1 : 0);
+            // Made once per picture: each new bitmap cursor is a new cursor of the window system.
+            auto it = iconCursors_.find(icon);
+            if (it == iconCursors_.end()) {
+                const QPixmap pixmap = CardPixmap(icon, 32, 32, devicePixelRatioF());
+                const bool hand = icon == ImageCatalogue::kPointer;
+                it = iconCursors_.emplace(icon, QCursor(pixmap, hand ? 9 : 0, hand ? 1 : 0)).first;
+            }
+            return it->second;
         }
         default: return Qt::ArrowCursor;
     }
@@ -148,16 +156,23 @@ QSize FormWindow::clientSizeFor(int widthTw, int heightTw) const {
     return QSize(std::max(w, 60), std::max(h, 30));
 }
 
+// Only what changed is set: the header of a form comes whenever anything of
+// it changed, the controls only when they did.
 void FormWindow::apply(const FormSnap& form) {
     setWindowTitle(Q(form.caption));
     QPalette pal = client_->palette();
-    pal.setColor(QPalette::Window, Rgb(form.backColor));
-    client_->setPalette(pal);
-    const bool pointerChanged = formPointer_ != form.mousePointer;
-    formPointer_ = form.mousePointer;
-    setCursor(cursorFor(form.mousePointer, form.mouseIcon));
-    if (pointerChanged)
-        for (View* view : ordered_) applyCursor(*view);
+    if (pal.color(QPalette::Window) != Rgb(form.backColor)) {
+        pal.setColor(QPalette::Window, Rgb(form.backColor));
+        client_->setPalette(pal);
+    }
+    if (formPointer_ != form.mousePointer || formIcon_ != form.mouseIcon) {
+        const bool pointerChanged = formPointer_ != form.mousePointer;
+        formPointer_ = form.mousePointer;
+        formIcon_ = form.mouseIcon;
+        setCursor(cursorFor(form.mousePointer, form.mouseIcon));
+        if (pointerChanged)
+            for (View* view : ordered_) applyCursor(*view);
+    }
 
     applyMenus(form);
     if (form.width != modelWidth_ || form.height != modelHeight_) {
@@ -181,8 +196,11 @@ void FormWindow::apply(const FormSnap& form) {
 
     if (form.visible) {
         if (form.modal != modal_ && isVisible()) hide();
-        modal_ = form.modal;
-        setWindowModality(modal_ ? Qt::ApplicationModal : Qt::NonModal);
+        if (form.modal != modal_ || !modalitySet_) {
+            modal_ = form.modal;
+            modalitySet_ = true;
+            setWindowModality(modal_ ? Qt::ApplicationModal : Qt::NonModal);
+        }
         if (form.windowState != modelState_) {
             modelState_ = form.windowState;
             if (form.windowState == 2) setWindowState(Qt::WindowMaximized);
@@ -221,11 +239,9 @@ void FormWindow::applyControls(const FormSnap& form) {
             if (s.kind == ControlKind::StatusBar) statusBar_ = view;
             added = true;
         }
-        View& view = *it->second;
-        if (view.snap().revision == s.revision && !added) continue;
-        applyCommon(view, s);
+        applyCommon(*it->second, s);
     }
-    restack();
+    if (!form.controls.empty()) restack();
     if (added) layoutClient();
 }
 
@@ -248,11 +264,18 @@ void FormWindow::applyCommon(View& view, const ControlSnap& s) {
 }
 
 // The hourglass of the form covers every control while the logic is busy.
+// A cursor is set only when it changes: on X11 each set is a round trip to
+// the display.
 void FormWindow::applyCursor(View& view) {
     const ControlSnap& s = view.snap();
+    int64_t want = 0;
+    if (formPointer_ == 11) want = -11;
+    else if (s.mousePointer != 0) want = int64_t{s.mousePointer} << 32 | s.mouseIcon;
+    if (view.appliedCursor() == want) return;
+    view.setAppliedCursor(want);
     QWidget* w = view.widget();
-    if (formPointer_ == 11) w->setCursor(Qt::WaitCursor);
-    else if (s.mousePointer != 0) w->setCursor(cursorFor(s.mousePointer, s.mouseIcon));
+    if (want == -11) w->setCursor(Qt::WaitCursor);
+    else if (want != 0) w->setCursor(cursorFor(s.mousePointer, s.mouseIcon));
     else w->unsetCursor();
 }
 
@@ -301,12 +324,23 @@ void FormWindow::layoutClient() {
     }
 }
 
+// The menus as last sent are kept; the bar is built anew only when their
+// shape changed, and set only when one of them did.
 void FormWindow::applyMenus(const FormSnap& form) {
     if (!menuBar_) return;
-    std::vector<const ControlSnap*> menus;
-    std::string shape;
+    bool changed = false;
     for (const ControlSnap& s : form.controls) {
         if (s.kind != ControlKind::Menu) continue;
+        auto known = std::find_if(menus_.begin(), menus_.end(),
+                                  [&s](const ControlSnap& m) { return m.name == s.name && m.index == s.index; });
+        if (known != menus_.end()) *known = s;
+        else menus_.push_back(s);
+        changed = true;
+    }
+    if (!changed) return;
+    std::vector<const ControlSnap*> menus;
+    std::string shape;
+    for (const ControlSnap& s : menus_) {
         menus.push_back(&s);
         shape += s.key() + '<' + s.container + (s.text == "-" ? "|-" : "") + ';';
     }
@@ -453,7 +487,7 @@ void Renderer::apply(const std::shared_ptr<const Snapshot>& snapshot) {
     // Hidden forms first, so that a window about to be shown comes up last, on top.
     for (int pass = 0; pass < 2; ++pass) {
         for (const FormSnap& form : snapshot->forms) {
-            if (form.visible != (pass == 1)) continue;
+            if (!form.changed || form.visible != (pass == 1)) continue;
             auto& window = windows_[form.name];
             if (!window) window = std::make_unique<FormWindow>(*this, form);
             window->apply(form);

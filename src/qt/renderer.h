@@ -13,7 +13,7 @@
 #include <memory>
 #include <string>
 
-#include "qt/snapshot.h"
+#include "window/snapshot.h"
 #include "qt/views.h"
 #include "window/platform.h"
 

@@ -14,7 +14,7 @@
 #include <cstdint>
 #include <string>
 
-#include "qt/snapshot.h"
+#include "window/snapshot.h"
 #include "window/platform.h"
 
 class QWidget;
@@ -48,10 +48,14 @@ public:
     const ControlSnap& snap() const { return snap_; }
     void setSnap(const ControlSnap& s) { snap_ = s; }
     void send(InputKind kind, int value = 0, const std::string& text = {}, int key = 0) const;
+    // The cursor last set on the widget, as the form window keys it (-1: none yet).
+    int64_t appliedCursor() const { return appliedCursor_; }
+    void setAppliedCursor(int64_t key) { appliedCursor_ = key; }
 
 protected:
     ViewHost* owner_;
     ControlSnap snap_;
+    int64_t appliedCursor_ = -1;
 };
 
 // The view of a control; null for the kinds that show nothing (timers, menus).

@@ -132,13 +132,16 @@ void WriteControl(std::string& out, const ControlSnap& s) {
 }  // namespace
 
 std::string SnapshotJson::write(const Snapshot& snapshot) {
-    std::map<std::string, uint64_t> sent;
     std::string out = "[";
     for (const FormSnap& f : snapshot.forms) {
         if (out.size() > 1) out += ',';
         Object o(out);
         o.str("name", f.name);
         o.num("instance", static_cast<long long>(f.instance));
+        if (!f.changed) {
+            o.flag("same", true);
+            continue;
+        }
         o.str("caption", f.caption);
         o.num("left", f.left);
         o.num("top", f.top);
@@ -156,20 +159,10 @@ std::string SnapshotJson::write(const Snapshot& snapshot) {
         std::string controls = "[";
         for (const ControlSnap& c : f.controls) {
             if (controls.size() > 1) controls += ',';
-            const std::string id = std::to_string(f.instance) + '/' + c.key();
-            auto it = sent_.find(id);
-            if (it != sent_.end() && it->second == c.revision) {
-                Object same(controls);
-                same.str("key", c.key());
-                same.num("rev", static_cast<long long>(c.revision));
-            } else {
-                WriteControl(controls, c);
-            }
-            sent[id] = c.revision;
+            WriteControl(controls, c);
         }
         o.raw("controls", controls + ']');
     }
-    sent_ = std::move(sent);
     return out + ']';
 }
 

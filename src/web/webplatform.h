@@ -12,7 +12,7 @@
 #include <utility>
 #include <string>
 
-#include "qt/snapshot.h"
+#include "window/snapshot.h"
 #include "web/snapjson.h"
 #include "window/platform.h"
 

@@ -97,6 +97,7 @@ Form& Runtime::load(const std::string& name) {
     auto it = factories_.find(name);
     if (it == factories_.end()) throw std::logic_error("unknown form " + name);
     forms_.push_back(it->second(*this));
+    timers_.clear();
     Form& form = *forms_.back();
     form.loaded_ = true;
     touch();
@@ -177,6 +178,7 @@ void Runtime::destroy(Form& form) {
     if (it != forms_.end()) {
         graveyard_.push_back(std::move(*it));
         forms_.erase(it);
+        timers_.clear();
     }
 }
 
@@ -204,12 +206,24 @@ void Runtime::runUntil(const std::function<bool()>& done) {
 }
 
 Control* Runtime::earliestTimer() const {
+    timers_.resize(forms_.size());
     Control* best = nullptr;
-    for (const auto& form : forms_) {
-        for (const auto& control : form->controls()) {
-            if (control->kind() != ControlKind::Timer || !control->enabled() || control->interval() <= 0) continue;
-            if (runningTimers_.count(control.get())) continue;
-            if (!best || control->dueAt() < best->dueAt()) best = control.get();
+    for (size_t i = 0; i < forms_.size(); ++i) {
+        const Form& form = *forms_[i];
+        FormTimers& entry = timers_[i];
+        if (entry.form != &form || entry.controls != form.controls().size()) {
+            entry.form = &form;
+            entry.controls = form.controls().size();
+            entry.timers.clear();
+            for (const auto& control : form.controls())
+                if (control->kind() == ControlKind::Timer) entry.timers.push_back(control.get());
+        }
+        for (Control* timer : entry.timers) {
+            if (!timer->enabled() || timer->interval() <= 0) continue;
+            if (!best || timer->dueAt() < best->dueAt()) {
+                if (runningTimers_.count(timer)) continue;
+                best = timer;
+            }
         }
     }
     return best;

@@ -53,6 +53,7 @@ public:
     template <typename T>
     T& form(const std::string& name) { return static_cast<T&>(load(name)); }
     std::vector<Form*> loadedForms() const;       // in load order
+    size_t loadedCount() const { return forms_.size(); }
 
     // Show runs a nested loop for a modal form until it is hidden or unloaded.
     void show(Form& form, bool modal = false);
@@ -113,6 +114,16 @@ private:
     int depth_ = 0;
     int holding_ = 0;  // DoEvents and message boxes in progress
     std::set<const Control*> runningTimers_;  // a timer does not fire inside its own handler
+    // The timers of each loaded form, in the order of forms_: the loop looks
+    // for the next tick at every turn, and a game window has hundreds of
+    // controls and a few timers. Made anew when a form is loaded or unloaded,
+    // and for one form when it gains controls.
+    struct FormTimers {
+        const Form* form = nullptr;
+        size_t controls = 0;
+        std::vector<Control*> timers;
+    };
+    mutable std::vector<FormTimers> timers_;
     std::vector<std::optional<MsgAnswer>> answers_;  // open message boxes, innermost last
     uint64_t revision_ = 0;
     std::function<void(const std::string&)> tracer_;

@@ -16,7 +16,7 @@
 
 #include "qt/qtplatform.h"
 #include "qt/renderer.h"
-#include "qt/snapshot.h"
+#include "window/snapshot.h"
 #include "qt/sound.h"
 #include "suite/suite.h"
 #include "window/headless.h"

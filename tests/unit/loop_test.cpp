@@ -8,6 +8,7 @@
 
 #include "window/headless.h"
 #include "window/runtime.h"
+#include "window/snapshot.h"
 
 using namespace ch;
 
@@ -316,4 +317,49 @@ TEST(DateTimes, MillisecondsRoundTrip) {
     EXPECT_EQ(leap.month, 3);
     EXPECT_EQ(leap.day, 1);
     EXPECT_EQ(leap.hour, 0);
+}
+
+// A renderer keeps what it was sent: each snapshot brings the header of a form
+// in which anything changed and only the controls whose revision moved, and
+// a form loaded anew comes whole under a new instance number. The timers of a
+// form loaded anew are its own.
+TEST_F(LoopTest, SnapshotsCarryWhatChangedAndAReloadedFormWhole) {
+    SnapshotTaker taker;
+    TestForm& first = show();
+    auto whole = taker.take(runtime);
+    ASSERT_EQ(whole->forms.size(), 1u);
+    const FormSnap& f1 = whole->forms[0];
+    EXPECT_TRUE(f1.changed);
+    std::vector<std::string> keys;
+    for (const ControlSnap& c : f1.controls) keys.push_back(c.key());
+    EXPECT_EQ(keys, (std::vector<std::string>{"lblMessage", "txtName", "cmdGo", "fraBox", "mnuFile", "mnuPlay"}));
+
+    first.c("TimerA").setInterval(100);
+    first.c("TimerA").setEnabled(true);
+    auto same = taker.take(runtime);
+    EXPECT_FALSE(same->forms[0].changed);
+    EXPECT_EQ(same->forms[0].instance, f1.instance);
+
+    first.c("txtName").setText("Bo");
+    auto one = taker.take(runtime);
+    ASSERT_TRUE(one->forms[0].changed);
+    ASSERT_EQ(one->forms[0].controls.size(), 1u);
+    EXPECT_EQ(one->forms[0].controls[0].key(), "txtName");
+    EXPECT_EQ(one->forms[0].controls[0].order, 1);
+    first.setCaption("Renamed");
+    EXPECT_TRUE(taker.take(runtime)->forms[0].changed);
+
+    first.onGo = [&] { runtime.unload(first); };
+    steps = {Click("frmTest", "cmdGo")};
+    run();
+    TestForm& second = show();
+    second.c("TimerB").setInterval(100);
+    second.c("TimerB").setEnabled(true);
+    auto again = taker.take(runtime);
+    EXPECT_NE(again->forms[0].instance, f1.instance);
+    EXPECT_EQ(again->forms[0].controls.size(), 6u);
+    log.clear();
+    steps = {Advance(250)};
+    run();
+    EXPECT_EQ(log, (std::vector<std::string>{"B@100", "B@200"}));
 }

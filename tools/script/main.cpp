@@ -103,7 +103,8 @@ int main(int argc, char** argv) {
         platform.setSource([&runner] { return runner.next(); });
         platform.setFailureReporter([&runner](const std::string& text) { runner.fail(text); });
         ch::randomness::SetFailureReporter([&runner](const std::string& text) { runner.fail(text); });
-        runtime.setTracer([&runner](const std::string& text) { runner.trace(text); });
+        // Told only when asked for: a trace line is built at every timer tick.
+        if (trace) runtime.setTracer([&runner](const std::string& text) { runner.trace(text); });
         try {
             ch::RegisterGameForms(runtime);
 #ifdef CARDHAVEN_TEST_FORMS

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A copy of what the windows show, taken on the logic thread where the model
-// would repaint and handed to the Qt thread, which never reads the model.
+// What the windows show, copied on the logic thread where the model would
+// repaint and handed to a renderer (the desktop's Qt thread, the browser
+// page), which never reads the model. A snapshot carries only what changed
+// since the one before it: a form the renderer already has comes with its
+// name and instance alone when nothing of it changed, and otherwise with
+// those of its controls whose revision moved. A renderer applies every
+// snapshot, in order, and keeps what it was given.
 #pragma once
 
 #include <array>
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,6 +18,7 @@
 
 namespace ch {
 
+class Form;
 class Runtime;
 
 struct ControlSnap {
@@ -52,6 +57,8 @@ struct ControlSnap {
 struct FormSnap {
     std::string name;
     uint64_t instance = 0;  // a new number each time the form is loaded anew
+    // False when nothing of the form changed: the fields below are not set.
+    bool changed = true;
     std::string caption;
     int left = 0, top = 0, width = 0, height = 0;
     int windowState = 0;
@@ -60,21 +67,31 @@ struct FormSnap {
     bool visible = false, enabled = true, modal = false;
     std::string focus;  // key of the control the logic gave the focus
     uint64_t focusSerial = 0;
+    // The controls changed since the last snapshot, in the form's order;
+    // every control the first time the form's instance is sent. Timers are
+    // never sent: nothing shows them.
     std::vector<ControlSnap> controls;
 };
 
 struct Snapshot {
-    std::vector<FormSnap> forms;  // loaded forms, in load order
+    std::vector<FormSnap> forms;  // every loaded form, in load order
 };
 
-// Takes the state of every loaded form. `instances` keeps the number given to
-// each live form between calls; forms no longer loaded are dropped from it.
+// Takes the snapshots of one renderer. It remembers each live form's
+// instance number, its last header and the revision of each control sent;
+// forms no longer loaded are forgotten.
 class SnapshotTaker {
 public:
+    SnapshotTaker();
+    ~SnapshotTaker();
+    SnapshotTaker(const SnapshotTaker&) = delete;
+    SnapshotTaker& operator=(const SnapshotTaker&) = delete;
+
     std::shared_ptr<const Snapshot> take(const Runtime& runtime);
 
 private:
-    std::map<const void*, uint64_t> instances_;
+    struct Sent;
+    std::vector<std::unique_ptr<Sent>> sent_;  // in load order
     uint64_t nextInstance_ = 1;
 };
 
