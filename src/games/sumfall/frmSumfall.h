@@ -16,6 +16,7 @@
 
 #include "games/sumfall/info.h"
 #include "games/sumfall/modSumfall.h"
+#include "games/sumfall/modSumfallBoard.h"
 #include "suite/boardplaces.h"
 #include "suite/gameform.h"
 #include "suite/gamewindow.h"
@@ -90,19 +91,13 @@ private:
     void PauseGame();
     void ResumeGame();
     void CheckTotal();
-    bool MoveUpCardToFieldArea();
-    bool CheckLegalFieldCardMove(int index) const;
-    bool CheckForCompletion() const;
 
     // What the window shows.
-    void FieldCardDisplay(bool visible = true);
-    void SelRectangle(bool visible = true);
+    void ShowBoard();
+    void ShowTotal();
     void CardTotalVisible(bool flag);
     void ShowLowerCards(bool flag);
     void DisableCommandButtons(bool flag);
-    void RefreshPlayCard();
-    void RefreshFieldCards();
-    void ShowFieldFaces();
     void ShowTimerRect();
     void SelectionColor(int index);
     void ClearColorCheck();
@@ -121,12 +116,7 @@ private:
     }
 
     // The board.
-    std::array<std::string, sumfall::kFieldPlaces> FieldCards;
-    std::vector<std::string> UpCards = std::vector<std::string>(sumfall::kUpPileSize + 1);
-    int16_t UpCardIndex = 0;
-    std::vector<std::string> StockCards;
-    int16_t StockIndex = -1;
-    int16_t CurrentTotal = 0;
+    sumfall::Board Board;
     int32_t CombinationCount = 0;
     int16_t CurrentRound = 1;
     bool UpCardUsed = false;
