@@ -4,7 +4,8 @@
 // rounds and, on a high enough score, a bonus round. Each procedure here
 // follows the game's description step by step. One class over three files:
 // frmSumfall.cpp the window (layout, menus, load, close, resize, settings),
-// frmSumfallBoard.cpp the board (deal, clicks, combinations, piles),
+// frmSumfallBoard.cpp the board (deal, clicks, combinations, piles, over
+// the plain board of modSumfallBoard.h, shown on the controls by ShowBoard),
 // frmSumfallRounds.cpp the rounds (Play, pause, clock, take score, bonus
 // round, end of game, replay, saved games); rulestext.cpp its rules text.
 #pragma once

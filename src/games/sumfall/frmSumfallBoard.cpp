@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Sumfall board: the deck and the deal, the clicks on field cards, the up
 // card and the play pile, the combinations they make, and what the board
-// shows (selections, faces and backs, the card total).
+// shows (selections, faces and backs, the card total). The board itself is
+// plain data (modSumfallBoard.h); each click makes its move there, then the
+// controls show the result.
 #include "games/sumfall/frmSumfall.h"
 
 #include <algorithm>
