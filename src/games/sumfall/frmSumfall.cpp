@@ -239,11 +239,11 @@ frmSumfall::frmSumfall(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth
     expose("Round1Deck", Expose(Round1Deck));
     expose("Round2Deck", Expose(Round2Deck));
     expose("Round3Deck", Expose(Round3Deck));
-    expose("UpCards", Expose(UpCards));
-    expose("UpCardIndex", Expose(UpCardIndex));
-    expose("StockCards", Expose(StockCards));
-    expose("StockIndex", Expose(StockIndex));
-    expose("CurrentTotal", Expose(CurrentTotal));
+    expose("UpCards", Expose(Board.up));
+    expose("UpCardIndex", Expose(Board.upIndex));
+    expose("StockCards", Expose(Board.stock));
+    expose("StockIndex", Expose(Board.stockIndex));
+    expose("CurrentTotal", Expose(Board.total));
     expose("CombinationCount", Expose(CombinationCount));
     expose("CurrentRound", Expose(CurrentRound));
     expose("SelectionColorIndex", Expose(SelectionColorIndex));
@@ -252,7 +252,7 @@ frmSumfall::frmSumfall(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth
     expose("CardGoal", Expose(CardGoal));
     expose("FieldCards", [this](int index, Value& out) {
         if (index < 0 || index >= kFieldPlaces) return false;
-        out = FieldCards[static_cast<size_t>(index)];
+        out = Board.field[static_cast<size_t>(index)];
         return true;
     });
 }
@@ -394,8 +394,10 @@ void frmSumfall::mnuColor_Click(int index) {
 
 void frmSumfall::mnuDeck_Click(int design) {
     ChooseBackDesign(*this, kDeckMenus[design - 1]);
-    RefreshPlayCard();
-    if (c("lblMessage").caption() == kGamePaused) RefreshFieldCards();
+    // The pictures take the new back: the play pile at once, the field and the up card while paused.
+    Board.pileKey = PlayPileKey(Board.stockIndex + 1);
+    c("PlayCardPicture").setPicture(ImageList2().indexOf(Board.pileKey));
+    if (c("lblMessage").caption() == kGamePaused) ShowBoard();
     DeckDesign = static_cast<int16_t>(design);
 }
 

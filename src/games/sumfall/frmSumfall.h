@@ -4,7 +4,8 @@
 // rounds and, on a high enough score, a bonus round. Each procedure here
 // follows the game's description step by step. One class over three files:
 // frmSumfall.cpp the window (layout, menus, load, close, resize, settings),
-// frmSumfallBoard.cpp the board (deal, clicks, combinations, piles),
+// frmSumfallBoard.cpp the board (deal, clicks, combinations, piles, over
+// the plain board of modSumfallBoard.h, shown on the controls by ShowBoard),
 // frmSumfallRounds.cpp the rounds (Play, pause, clock, take score, bonus
 // round, end of game, replay, saved games); rulestext.cpp its rules text.
 #pragma once
@@ -16,6 +17,7 @@
 
 #include "games/sumfall/info.h"
 #include "games/sumfall/modSumfall.h"
+#include "games/sumfall/modSumfallBoard.h"
 #include "suite/boardplaces.h"
 #include "suite/gameform.h"
 #include "suite/gamewindow.h"
@@ -90,19 +92,13 @@ private:
     void PauseGame();
     void ResumeGame();
     void CheckTotal();
-    bool MoveUpCardToFieldArea();
-    bool CheckLegalFieldCardMove(int index) const;
-    bool CheckForCompletion() const;
 
     // What the window shows.
-    void FieldCardDisplay(bool visible = true);
-    void SelRectangle(bool visible = true);
+    void ShowBoard();
+    void ShowTotal();
     void CardTotalVisible(bool flag);
     void ShowLowerCards(bool flag);
     void DisableCommandButtons(bool flag);
-    void RefreshPlayCard();
-    void RefreshFieldCards();
-    void ShowFieldFaces();
     void ShowTimerRect();
     void SelectionColor(int index);
     void ClearColorCheck();
@@ -121,12 +117,7 @@ private:
     }
 
     // The board.
-    std::array<std::string, sumfall::kFieldPlaces> FieldCards;
-    std::vector<std::string> UpCards = std::vector<std::string>(sumfall::kUpPileSize + 1);
-    int16_t UpCardIndex = 0;
-    std::vector<std::string> StockCards;
-    int16_t StockIndex = -1;
-    int16_t CurrentTotal = 0;
+    sumfall::Board Board;
     int32_t CombinationCount = 0;
     int16_t CurrentRound = 1;
     bool UpCardUsed = false;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The Sumfall board: the deck and the deal, the clicks on field cards, the up
 // card and the play pile, the combinations they make, and what the board
-// shows (selections, faces and backs, the card total).
+// shows (selections, faces and backs, the card total). The board itself is
+// plain data (modSumfallBoard.h); each click makes its move there, then the
+// controls show the result.
 #include "games/sumfall/frmSumfall.h"
 
 #include <algorithm>
@@ -31,7 +33,7 @@ bool frmSumfall::CreateSumfallDeck() {
     try {
         Deck = DeckForCardGoal(CardGoal);
         for (auto* round : {&Round1Deck, &Round2Deck, &Round3Deck}) round->assign(Deck.size(), std::string());
-        StockCards.assign(static_cast<size_t>(StockUpperBound(CardGoal)) + 1, std::string());
+        Board.stock.assign(static_cast<size_t>(StockUpperBound(CardGoal)) + 1, std::string());
         return true;
     } catch (const std::exception&) {
         MsgBox("Unable to create the deck.", MsgButtons::OK, MsgIcon::None, AppTitle);
@@ -53,21 +55,14 @@ bool frmSumfall::Deal(bool newGame) {
     try {
         // A replay's decks are all checked before a card is shown.
         if (newGame && ReplayPending && !ReplayDecksHavePictures()) throw RuntimeError(35601, "Element not found");
-        const int lastCard = DeckUpperBound();
-        StockCards.assign(static_cast<size_t>(std::max(lastCard - 22, 0)) + 1, std::string());
-        const int stockUpperBound = static_cast<int>(StockCards.size()) - 1;
-        UpCardIndex = 1;
-        StockIndex = static_cast<int16_t>(stockUpperBound - 1);
+        // Every card the deal shows has a picture before the board changes.
+        for (int i = 1; i <= kFieldPlaces + 1; ++i) PictureOf(Deck.at(static_cast<size_t>(i)));
+        DealBoard(Board, Deck);
+        const int stockUpperBound = static_cast<int>(Board.stock.size()) - 1;
 
-        c("UpCardSelectionRectangle").setVisible(false);
-        c("UpCardPicture").setBorderStyle(1);
         c("PlayCardPicture").setVisible(false);
         c("lblMessage").setCaption("");
         c("lblMessage").setVisible(false);
-        for (int i = 1; i < kFieldPlaces; ++i) {
-            c("FieldCardPicture", i).setVisible(false);
-            c("FieldSelectionRectangle", i).setVisible(false);
-        }
 
         Control& bar = c("StatusBar1");
         bar.setPanel(1, "Make " + FormatScore(Scoring.BonusRoundScore) + " for Bonus Round!   ");
@@ -77,29 +72,10 @@ bool frmSumfall::Deal(bool newGame) {
         c("lblCardCount").setCaption("Cards: " + NumText(stockUpperBound));
         c("lblCardCount").setVisible(true);
 
-        for (int i = 0; i < kFieldPlaces; ++i) {
-            const std::string& code = Deck.at(static_cast<size_t>(i + 1));
-            Control& card = c("FieldCardPicture", i);
-            card.setPicture(PictureOf(code));
-            card.setBorderStyle(1);
-            FieldCards[static_cast<size_t>(i)] = code;
-            card.setVisible(true);
-        }
-
-        UpCards.assign(kUpPileSize + 1, std::string());
-        c("UpCardPicture").setPicture(PictureOf(Deck.at(23)));
-        UpCards[1] = Deck[23];
+        ShowBoard();
         c("UpCardPicture").setVisible(true);
-
-        // From 23, not 24: the first up card is also the bottom card of the
-        // play pile and can turn up again at its very end.
-        for (int i = 23, j = 0; i <= lastCard && j <= stockUpperBound; ++i, ++j)
-            StockCards[static_cast<size_t>(j)] = Deck[static_cast<size_t>(i)];
-
-        c("PlayCardPicture").setPicture(ImageList2().indexOf("FULL"));
         c("PlayCardPicture").setVisible(true);
-        CurrentTotal = 0;
-        c("lblCurrentTotal").setCaption("0");
+        ShowTotal();
         c("lblCurrentTotal").setVisible(true);
         c("lblTime").setCaption("Time: " + NumText(TimeLimit));
         c("lblTime").setVisible(true);
@@ -144,118 +120,79 @@ bool frmSumfall::Deal(bool newGame) {
 
 void frmSumfall::FieldCardPicture_Click(int index) {
     const std::string& message = c("lblMessage").caption();
-    if (message == kGamePaused || message == kGameOver || !CheckLegalFieldCardMove(index)) {
+    if (message == kGamePaused || message == kGameOver || !IsExposed(Board, index)) {
         Wave("\\Chord.wav");
         return;
     }
-    const int value = CardValue(FieldCards[static_cast<size_t>(index)]);
-    Control& selection = c("FieldSelectionRectangle", index);
-    if (!selection.visible()) {
-        if (value + CurrentTotal > CardGoal) {
-            Wave("\\Chord.wav");
-            return;
-        }
-        selection.setVisible(true);
-        CurrentTotal = static_cast<int16_t>(CurrentTotal + value);
-        c("lblCurrentTotal").setCaption(NumText(CurrentTotal));
-        Wave("\\Markq.wav");
-        CheckTotal();
-    } else {
-        CurrentTotal = static_cast<int16_t>(CurrentTotal - value);
-        c("lblCurrentTotal").setCaption(NumText(CurrentTotal));
-        Wave("\\Tick.wav");
-        selection.setVisible(false);
-    }
+    const Step step = ClickField(Board, index, CardGoal);
+    ShowBoard();
+    ShowTotal();
+    Wave(step.sound);
+    if (step.outcome == Outcome::Selected) CheckTotal();
 }
 
 void frmSumfall::UpCardPicture_Click() {
     const std::string& message = c("lblMessage").caption();
-    if (message == kGamePaused || message == kGameOver || UpCardIndex == 0) {
+    if (message == kGamePaused || message == kGameOver) {
         Wave("\\Chord.wav");
         return;
     }
-    const int value = CardValue(UpCards[static_cast<size_t>(UpCardIndex)]);
-    Control& selection = c("UpCardSelectionRectangle");
-    if (!selection.visible()) {
-        if (value + CurrentTotal > CardGoal) {
-            Wave("\\Chord.wav");
-            return;
-        }
-        Wave("\\Markq.wav");
-        CurrentTotal = static_cast<int16_t>(CurrentTotal + value);
-        c("lblCurrentTotal").setCaption(NumText(CurrentTotal));
-        selection.setVisible(true);
-        CheckTotal();
-    } else {
-        Wave("\\Tick.wav");
-        CurrentTotal = static_cast<int16_t>(CurrentTotal - value);
-        c("lblCurrentTotal").setCaption(NumText(CurrentTotal));
-        selection.setVisible(false);
-    }
+    const Step step = ClickUp(Board, CardGoal);
+    ShowBoard();
+    ShowTotal();
+    Wave(step.sound);
+    if (step.outcome == Outcome::Selected) CheckTotal();
 }
 
+// A total that makes the card goal pays each selected card, field places
+// first, lowest place first, and ends the selection.
 void frmSumfall::CheckTotal() {
     UpCardUsed = false;
-    if (CurrentTotal != CardGoal) return;
+    if (Board.total != CardGoal) return;
     Wave("\\TwentyOne.wav");
-    for (int i = 0; i < kFieldPlaces; ++i) {
-        Control& selection = c("FieldSelectionRectangle", i);
-        if (!selection.visible()) continue;
-        AddToScore(kField[static_cast<size_t>(i)].points);
-        selection.setVisible(false);
-        c("FieldCardPicture", i).setVisible(false);
+    for (const int place : SelectedPlaces(Board)) {
+        AddToScore(kField[static_cast<size_t>(place)].points);
+        TakeFromField(Board, place);
+        ShowBoard();
     }
-    Control& upSelection = c("UpCardSelectionRectangle");
-    if (upSelection.visible()) {
+    if (Board.upSelected) {
         UpCardUsed = true;
         AddToScore(kUpCardPoints);
-        upSelection.setVisible(false);
-        UpCardIndex -= 1;
-        Control& up = c("UpCardPicture");
-        if (UpCardIndex > 0) {
-            up.setPicture(PictureOf(UpCards[static_cast<size_t>(UpCardIndex)]));
-        } else {
-            up.setBorderStyle(0);
-            up.setPicture(ImageList2().indexOf("EMPTY"));
-        }
+        TakeUpCard(Board);
+        ShowBoard();
     }
     CombinationCount += 1;
     c("lblCurrentElevens").setCaption(NumText(CombinationCount));
-    c("lblCurrentTotal").setCaption("0");
-    CurrentTotal = 0;
+    Board.total = 0;
+    ShowTotal();
     ShowScore();
-    if (CheckForCompletion()) cmdTakeScore_Click(false);
+    if (FieldCleared(Board)) cmdTakeScore_Click(false);
     if (!loaded()) return;
-    if (UpCardUsed && c("UpCardPicture").picture() == ImageList2().indexOf("EMPTY")) PlayCardPicture_Click();
+    // The up card pile used up turns the next card of the play pile free of charge.
+    if (UpCardUsed && Board.upEmpty) PlayCardPicture_Click();
     UpCardUsed = false;
 }
 
 void frmSumfall::PlayCardPicture_Click() {
     const std::string& message = c("lblMessage").caption();
-    if (message == kGamePaused || message == kGameOver || StockIndex < 0) {
+    if (message == kGamePaused || message == kGameOver || Board.stockIndex < 0) {
         if (!UpCardUsed) Wave("\\Chord.wav");
         return;
     }
     setMousePointer(Pointer::Hourglass);
-    if (UpCardIndex > 0) MoveUpCardToFieldArea();
+    // An up card passed over falls back into the first free field place.
+    if (Board.upIndex > 0 && FallBack(Board) >= 0) {
+        ShowBoard();
+        AddToScore(-kFallBackCost);
+        ShowScore();
+    }
     if (!UpCardUsed) Wave("\\Markq.wav");
-    Control& up = c("UpCardPicture");
-    const std::string turned = StockCards[static_cast<size_t>(StockIndex)];
-    up.setBorderStyle(1);
-    up.setPicture(PictureOf(turned));
-    UpCardIndex += 1;
-    // The pile grows as far as the player turns cards without using them.
-    if (static_cast<size_t>(UpCardIndex) >= UpCards.size()) UpCards.resize(static_cast<size_t>(UpCardIndex) + 1);
-    UpCards[static_cast<size_t>(UpCardIndex)] = turned;
-    StockIndex -= 1;
-
-    for (int i = 0; i < kFieldPlaces; ++i) c("FieldSelectionRectangle", i).setVisible(false);
-    up.setVisible(true);
-    c("UpCardSelectionRectangle").setVisible(false);
-    CurrentTotal = 0;
-    c("lblCurrentTotal").setCaption(NumText(CurrentTotal));
-    c("lblCardCount").setCaption("Cards: " + NumText(StockIndex + 1));
-    RefreshPlayCard();
+    PictureOf(Board.stock[static_cast<size_t>(Board.stockIndex)]);
+    TurnUpCard(Board);
+    ShowBoard();
+    c("UpCardPicture").setVisible(true);
+    ShowTotal();
+    c("lblCardCount").setCaption("Cards: " + NumText(Board.stockIndex + 1));
     if (!UpCardUsed) {
         AddToScore(-kFlipCost);
         ShowScore();
@@ -263,63 +200,50 @@ void frmSumfall::PlayCardPicture_Click() {
     setMousePointer(Pointer::Default);
 }
 
-// An up card passed over falls back into the highest free field place.
-bool frmSumfall::MoveUpCardToFieldArea() {
-    for (int i = 0; i < kFieldPlaces; ++i) {
-        Control& card = c("FieldCardPicture", i);
-        if (card.visible()) continue;
-        card.setPicture(c("UpCardPicture").picture());
-        card.setBorderStyle(1);
-        card.setVisible(true);
-        FieldCards[static_cast<size_t>(i)] = UpCards[static_cast<size_t>(UpCardIndex)];
-        UpCardIndex -= 1;
-        AddToScore(-kFallBackCost);
-        ShowScore();
-        return true;
-    }
-    return false;
-}
-
 void frmSumfall::FieldCardPicture_MouseMove(int index) {
-    const bool playable = c("lblMessage").caption() != kGameOver && CheckLegalFieldCardMove(index);
+    const bool playable = c("lblMessage").caption() != kGameOver && IsExposed(Board, index);
     c("FieldCardPicture", index).setMouseIcon(playable ? ImageCatalogue::kPointer : 0);
 }
 
 void frmSumfall::UpCardPicture_MouseMove() {
-    Control& up = c("UpCardPicture");
-    const bool empty = up.picture() == ImageList2().indexOf("EMPTY");
-    up.setMouseIcon(empty || c("lblMessage").caption() == kGameOver ? 0 : ImageCatalogue::kPointer);
+    const bool playable = !Board.upEmpty && c("lblMessage").caption() != kGameOver;
+    c("UpCardPicture").setMouseIcon(playable ? ImageCatalogue::kPointer : 0);
 }
 
 void frmSumfall::PlayCardPicture_MouseMove() {
-    Control& pile = c("PlayCardPicture");
-    const bool empty = pile.picture() == ImageList2().indexOf("EMPTY");
-    pile.setMouseIcon(empty || c("lblMessage").caption() == kGameOver ? 0 : ImageCatalogue::kPointer);
-}
-
-bool frmSumfall::CheckLegalFieldCardMove(int index) const {
-    std::array<bool, kFieldPlaces> holdsCard{};
-    for (int i = 0; i < kFieldPlaces; ++i) holdsCard[static_cast<size_t>(i)] = c("FieldCardPicture", i).visible();
-    return IsExposed(index, holdsCard);
-}
-
-bool frmSumfall::CheckForCompletion() const {
-    for (int i = 0; i < kFieldPlaces; ++i)
-        if (c("FieldCardPicture", i).visible()) return false;
-    return true;
+    const bool playable = Board.pileKey != "EMPTY" && c("lblMessage").caption() != kGameOver;
+    c("PlayCardPicture").setMouseIcon(playable ? ImageCatalogue::kPointer : 0);
 }
 
 // ---- What the window shows ----------------------------------------------------------
 
-void frmSumfall::FieldCardDisplay(bool visible) {
-    for (int i = 0; i < kFieldPlaces; ++i) c("FieldCardPicture", i).setVisible(visible);
+// The board on the controls. A field place that holds no card keeps the
+// picture it last had; a paused game shows backs with no border.
+void frmSumfall::ShowBoard() {
+    const int back = ImageList2().indexOf("BACK");
+    for (int i = 0; i < kFieldPlaces; ++i) {
+        const size_t at = static_cast<size_t>(i);
+        Control& card = c("FieldCardPicture", i);
+        if (Board.holds[at]) {
+            card.setPicture(Board.faceDown ? back : PictureOf(Board.field[at]));
+            card.setBorderStyle(Board.faceDown ? 0 : 1);
+        }
+        card.setVisible(Board.holds[at]);
+        c("FieldSelectionRectangle", i).setVisible(Board.selected[at]);
+    }
+    Control& up = c("UpCardPicture");
+    if (Board.upEmpty) {
+        up.setPicture(ImageList2().indexOf("EMPTY"));
+        up.setBorderStyle(0);
+    } else if (Board.upIndex > 0) {
+        up.setPicture(Board.faceDown ? back : PictureOf(Board.up[static_cast<size_t>(Board.upIndex)]));
+        up.setBorderStyle(Board.faceDown ? 0 : 1);
+    }
+    c("UpCardSelectionRectangle").setVisible(Board.upSelected);
+    if (!Board.pileKey.empty()) c("PlayCardPicture").setPicture(ImageList2().indexOf(Board.pileKey));
 }
 
-// Place 0 is left out: a selection there survives this call.
-void frmSumfall::SelRectangle(bool visible) {
-    for (int i = 1; i < kFieldPlaces; ++i) c("FieldSelectionRectangle", i).setVisible(visible);
-    c("UpCardSelectionRectangle").setVisible(visible);
-}
+void frmSumfall::ShowTotal() { c("lblCurrentTotal").setCaption(NumText(Board.total)); }
 
 void frmSumfall::CardTotalVisible(bool flag) {
     for (const char* name : {"CardTotalRectangle", "CardTotalBevelSide", "CardTotalBevelBottom", "lblCurrentTotal", "lblTotal"})
@@ -333,35 +257,6 @@ void frmSumfall::ShowLowerCards(bool flag) {
 void frmSumfall::DisableCommandButtons(bool flag) {
     for (const char* name : {"cmdPause", "cmdPlay", "cmdExit", "cmdTakeScore", "mnuPause", "mnuPlay", "mnuExit", "mnuTakeScore"})
         c(name).setEnabled(!flag);
-}
-
-void frmSumfall::RefreshPlayCard() {
-    c("PlayCardPicture").setPicture(ImageList2().indexOf(PlayPileKey(StockIndex + 1)));
-}
-
-void frmSumfall::RefreshFieldCards() {
-    const int back = ImageList2().indexOf("BACK");
-    for (int i = 0; i < kFieldPlaces; ++i) {
-        Control& card = c("FieldCardPicture", i);
-        if (!card.visible()) continue;
-        card.setPicture(back);
-        card.setBorderStyle(0);
-    }
-}
-
-// The faces again after a pause.
-void frmSumfall::ShowFieldFaces() {
-    for (int i = 0; i < kFieldPlaces; ++i) {
-        Control& card = c("FieldCardPicture", i);
-        if (!card.visible()) continue;
-        card.setPicture(ImageList2().indexOf(CardKey(FieldCards[static_cast<size_t>(i)])));
-        card.setBorderStyle(1);
-    }
-    Control& up = c("UpCardPicture");
-    if (UpCardIndex > 0) {
-        up.setPicture(ImageList2().indexOf(CardKey(UpCards[static_cast<size_t>(UpCardIndex)])));
-        up.setBorderStyle(1);
-    }
 }
 
 void frmSumfall::ShowTimerRect() {

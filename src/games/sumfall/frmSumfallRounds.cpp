@@ -92,20 +92,18 @@ void frmSumfall::cmdPause_Click() {
 // turned down.
 void frmSumfall::PauseGame() {
     SetPausedControls(*this);
-    SelRectangle(false);
-    CurrentTotal = 0;
-    c("lblCurrentTotal").setCaption(NumText(CurrentTotal));
-    RefreshFieldCards();
-    if (UpCardIndex > 0) {
-        c("UpCardPicture").setPicture(ImageList2().indexOf("BACK"));
-        c("UpCardPicture").setBorderStyle(0);
-    }
+    ClearSelections(Board);
+    Board.total = 0;
+    ShowTotal();
+    Board.faceDown = true;
+    ShowBoard();
     if (PlayMusic) StopMusic();
 }
 
 void frmSumfall::ResumeGame() {
     SetResumedControls(*this);
-    ShowFieldFaces();
+    Board.faceDown = false;
+    ShowBoard();
     if (PlayMusic && GameInProgress) StartMusic();
 }
 
@@ -147,9 +145,10 @@ void frmSumfall::TakeScore() {
     if (PlayMusic) StopMusic();
 
     DisableCommandButtons(true);
-    SelRectangle(false);
-    const bool completed = CheckForCompletion();
-    FieldCardDisplay(false);
+    ClearSelections(Board);
+    const bool completed = FieldCleared(Board);
+    ShowField(Board, false);
+    ShowBoard();
     CardTotalVisible(false);
     ShowLowerCards(false);
 
@@ -241,7 +240,8 @@ void frmSumfall::TakeScore() {
         Deal();
         message.setVisible(false);
         DisableCommandButtons(false);
-        FieldCardDisplay(true);
+        ShowField(Board, true);
+        ShowBoard();
     } else if (CurrentRound == 2 && CurrentScore >= Scoring.BonusRoundScore) {
         Wave("\\HighScore.wav");
         message.setCaption("Bonus Round!");
@@ -257,7 +257,8 @@ void frmSumfall::TakeScore() {
         DisableCommandButtons(false);
         c("lblCurrentRound").setCaption("Bonus");
         if (PlayMusic) StartMusic();
-        FieldCardDisplay(true);
+        ShowField(Board, true);
+        ShowBoard();
         ReplayPending = false;
     } else {
         GameOver();
@@ -271,10 +272,9 @@ void frmSumfall::TakeScore() {
 // "Game Over" stands for two seconds and the splash panel returns.
 void frmSumfall::GameOver() {
     Control& message = c("lblMessage");
-    for (int i = 0; i < kFieldPlaces; ++i) {
-        c("FieldCardPicture", i).setVisible(false);
-        c("FieldSelectionRectangle", i).setVisible(false);
-    }
+    ShowField(Board, false);
+    Board.selected.fill(false);
+    ShowBoard();
     CurrentRound = 1;
     GameInProgress = false;
     PreviousScore = CurrentScore;
@@ -327,7 +327,8 @@ void frmSumfall::CloseScoring() {
     ElapsedSeconds = 0;
     score.setForeColor(Colour::Blue);
     message.setForeColor(Colour::Red);
-    SelRectangle(false);
+    ClearSelections(Board);
+    ShowBoard();
     CardTotalVisible(true);
     setMousePointer(Pointer::Default);
 }
@@ -353,7 +354,8 @@ void frmSumfall::EndOnError(const RuntimeError& error) {
 void frmSumfall::EndGame() {
     GameInProgress = false;
     ReplayPending = false;
-    FieldCardDisplay(false);
+    ShowField(Board, false);
+    ShowBoard();
     ShowLowerCards(false);
     c("Timer1").setEnabled(false);
     c("Timer2").setEnabled(false);
@@ -362,7 +364,8 @@ void frmSumfall::EndGame() {
     c("Surface").cls();
     for (const char* name : {"CardTotalRectangle", "CardTotalBevelSide", "CardTotalBevelBottom"})
         c(name).setVisible(false);
-    SelRectangle(false);
+    ClearSelections(Board);
+    ShowBoard();
     PreviousScore = CurrentScore;
     CurrentScore = 0;
     ShowScore();
@@ -401,7 +404,7 @@ void frmSumfall::Flash() {
 // ---- Saved games ----------------------------------------------------------------------
 
 bool frmSumfall::LoadSavedGame(const std::string& path) {
-    StockCards.assign(31, std::string());
+    Board.stock.assign(31, std::string());
     std::string text;
     SavedGame game;
     if (!ReadWholeFile(path, text) || !ParseSavedGame(text, game)) {
