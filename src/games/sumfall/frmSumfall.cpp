@@ -210,7 +210,7 @@ frmSumfall::frmSumfall(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth
     on("PlayCardPicture", Ev::Click, guarded([this](EventArgs&) { PlayCardPicture_Click(); }));
     on("PlayCardPicture", Ev::MouseMove, [this](EventArgs&) { PlayCardPicture_MouseMove(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindShared({.face = {ImageCatalogue::kSumfallSplash}});
+    BindShared({.face = {ImageCatalogue::kSplashEmblem}});
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { lblCurrentScore_Change(); });
     on("lblMessage", Ev::Change, [this](EventArgs&) { lblMessage_Change(); });
     on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
