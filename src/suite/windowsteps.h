@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Small steps that every game window takes the same way, kept here once:
-// the menus of a window without Take Score, the pause button and the Clear
+// the menus of a game window, the pause button and the Clear
 // High Scores entry.
 #pragma once
 
@@ -16,11 +16,11 @@ namespace ch {
 
 class Form;
 
-// The menus of a window whose File menu has no Take Score: "&File" with
-// mnuPlay, mnuPause, mnuExit; "&Options" with the common entries, the scoring
-// dialog's entry mnuCustom (`customCaption`), the time limit entries under
-// mnuTime and the back designs; "&Help".
-std::vector<ControlSpec> MenusWithoutTakeScore(std::span<const TimeEntry> times, const char* customCaption);
+// The menus of a game window: "&File" with mnuPlay, mnuTakeScore (unless
+// `takeScore` is false), mnuPause, mnuExit; "&Options" with the common
+// entries, the scoring dialog's entry mnuCustom (`customCaption`), the time
+// limit entries under mnuTime and the back designs; "&Help".
+std::vector<ControlSpec> GameMenus(std::span<const TimeEntry> times, const char* customCaption, bool takeScore);
 
 // cmdPause as most games have it: "Pau&se" pauses (the shared controls, the
 // cards hidden through the game's ShowCards, the music stopped), "&Resume"

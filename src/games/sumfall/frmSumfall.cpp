@@ -17,6 +17,7 @@
 #include "suite/dial.h"
 #include "suite/frmRules.h"
 #include "suite/highscores.h"
+#include "suite/labels.h"
 #include "suite/windowsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
@@ -108,7 +109,7 @@ std::vector<ControlSpec> Menus() {
 
 std::vector<ControlSpec> Layout() {
     std::vector<ControlSpec> specs;
-    auto add = [&specs](std::span<const ControlSpec> part) { specs.insert(specs.end(), part.begin(), part.end()); };
+    const auto add = [&specs](std::span<const ControlSpec> part) { AppendControls(specs, part); };
     add(StandingControls());
     add(TakeScoreButton());
     add(ExitButton());
