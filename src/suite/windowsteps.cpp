@@ -24,13 +24,13 @@ std::vector<ControlSpec> GameMenus(std::span<const TimeEntry> times, const char*
     return m;
 }
 
-void PauseOrResume(Form& window, const std::function<void(bool)>& showCards) {
+void PauseOrResume(Form& window, const std::function<void(bool)>& showCards, const char* messageLabel) {
     if (window.c("cmdPause").caption() == kPauseCaption) {
-        SetPausedControls(window);
+        SetPausedControls(window, messageLabel);
         showCards(false);
         if (PlayMusic) StopMusic();
     } else {
-        SetResumedControls(window);
+        SetResumedControls(window, messageLabel);
         showCards(true);
         if (PlayMusic && GameInProgress) StartMusic();
     }

@@ -22,11 +22,12 @@ class Form;
 // limit entries under mnuTime and the back designs; "&Help".
 std::vector<ControlSpec> GameMenus(std::span<const TimeEntry> times, const char* customCaption, bool takeScore);
 
-// cmdPause as most games have it: "Pau&se" pauses (the shared controls, the
-// cards hidden through the game's ShowCards, the music stopped), "&Resume"
-// resumes (the cards shown again, the music restarted from its beginning if
-// a game is running).
-void PauseOrResume(Form& window, const std::function<void(bool)>& showCards);
+// cmdPause as most games have it: "Pau&se" pauses (the shared controls with
+// `messageLabel` showing "Paused", the cards hidden through the game's
+// `showCards(false)`, the music stopped), "&Resume" resumes (`showCards(true)`,
+// the music restarted from its beginning if a game is running).
+void PauseOrResume(Form& window, const std::function<void(bool)>& showCards,
+                   const char* messageLabel = "lblMessage");
 
 // mnuClear: after a Yes to "This will clear all High Scores. Are You Sure?"
 // the table of the current limit gets its ten default lines and the high
