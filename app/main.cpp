@@ -230,7 +230,7 @@ bool WriteCardSheet(const QString& file, qreal ratio, bool table) {
     for (int i = ch::ImageCatalogue::kFirstFace; i <= ch::ImageCatalogue::kLastFace; ++i) place(i, slot++);
     for (int i = 1; i <= 12; ++i) place(i, slot++);
     for (int i : {ch::ImageCatalogue::kEmptyPlace, ch::ImageCatalogue::kPointer, ch::ImageCatalogue::kEmpty76x100,
-                  ch::ImageCatalogue::kSumfallSplash})
+                  ch::ImageCatalogue::kSplashEmblem})
         place(i, slot++);
     p.end();
     return sheet.save(file);

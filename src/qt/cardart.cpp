@@ -580,7 +580,7 @@ void PaintCard(QPainter& p, int index, qreal w, qreal h) {
         DrawFace(p, n % 13 + 1, static_cast<Suit>(n / 13), w, h);
     } else if (index == ImageCatalogue::kPointer) {
         DrawPointer(p, w, h);
-    } else if (index == ImageCatalogue::kSumfallSplash) {
+    } else if (index == ImageCatalogue::kSplashEmblem) {
         DrawSplash(p, w, h);
     }
 }

@@ -151,7 +151,7 @@ void ImageCatalogue::reset() {
         keys_[static_cast<size_t>(i)] = std::to_string((i - kFirstFace) % 13 + 1) + kSuits[(i - kFirstFace) / 13];
     keys_[kPointer] = "POINTER";
     keys_[kEmpty76x100] = "Empty";
-    keys_[kSumfallSplash] = "SFUP";
+    keys_[kSplashEmblem] = "SFUP";
 }
 
 const std::string& ImageCatalogue::key(int index) const {

@@ -59,7 +59,7 @@ public:
     static constexpr int kEmptyPlace = 13;
     static constexpr int kPointer = 66;
     static constexpr int kEmpty76x100 = 67;
-    static constexpr int kSumfallSplash = 68;
+    static constexpr int kSplashEmblem = 68;  // the fixed emblem of a splash screen
 
     ImageCatalogue();
     void reset();  // keys as at start

@@ -49,13 +49,13 @@ void CountClockSeconds(Form& window, long long perSecond, const std::function<vo
 
 // What varies between the games in the speed bonus count.
 struct TimeBonusOptions {
-    // Handgrid multiplies the total by a further factor and counts the
-    // factor times the bonus at each second.
+    // A further factor on the bonus per second: the total is multiplied by
+    // it and each counted second adds the factor times the bonus.
     int factor = 1;
-    // Where lblScoring is centred: empty for the window, or a control's name
-    // ("ScoringLabelOutline" in Handgrid).
+    // Where lblScoring is centred: empty for the window, or the name of a
+    // control to centre it on.
     const char* centreOn = "";
-    // Treyshift moves lblMessage to stand 100 twips to the left of lblScoring.
+    // lblMessage moves to stand 100 twips to the left of lblScoring.
     bool messageBesideScoring = false;
 };
 
@@ -69,8 +69,8 @@ void CountTimeBonus(Form& window, long long bonusPerSecond, const TimeBonusOptio
 
 // What varies between the games in a named bonus.
 struct AwardOptions {
-    // The count runs on 16-bit numbers (Spirehold's high run bonus): a total
-    // beyond 32767 overflows as the count starts, after it has been shown.
+    // The count runs on 16-bit numbers: a total beyond 32767 (or below
+    // -32768) overflows as the count starts, after it has been shown.
     bool sixteenBitCount = false;
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The custom scoring dialogs' shared steps. The opening of a "User Options" dialog, as Handgrid's and Treyshift's
-// custom scoring dialogs read: centred, titled AppTitle + " User Options",
+// The custom scoring dialogs' shared steps. The opening of a "User Options" dialog, as the dialogs that use
+// it read: centred, titled AppTitle + " User Options",
 // their frame frmScoringOptions and their note lblInfo captioned as they have
 // always read.
 #pragma once

@@ -5,34 +5,32 @@
 #include "suite/gamewindow.h"
 #include "suite/common.h"
 #include "suite/highscores.h"
+#include "suite/labels.h"
 #include "suite/sound.h"
 #include "window/form.h"
 
 namespace ch {
 
-std::vector<ControlSpec> MenusWithoutTakeScore(std::span<const TimeEntry> times, const char* customCaption) {
+std::vector<ControlSpec> GameMenus(std::span<const TimeEntry> times, const char* customCaption, bool takeScore) {
     using K = ControlKind;
-    std::vector<ControlSpec> m = {
-        {K::Menu, "mnuFile", -1, 0, 0, 0, 0, "&File"},
-        {K::Menu, "mnuPlay", -1, 0, 0, 0, 0, "&Play", "mnuFile"},
-        {K::Menu, "mnuPause", -1, 0, 0, 0, 0, "Pau&se", "mnuFile"},
-        {K::Menu, "mnuExit", -1, 0, 0, 0, 0, "E&xit", "mnuFile"},
-    };
-    for (const ControlSpec& s : OptionsMenuHead()) m.push_back(s);
+    std::vector<ControlSpec> m;
+    for (const ControlSpec& s : FileMenu())
+        if (takeScore || std::string(s.name) != "mnuTakeScore") m.push_back(s);
+    AppendControls(m, OptionsMenuHead());
     m.push_back({K::Menu, "mnuCustom", -1, 0, 0, 0, 0, customCaption, "mnuOptions"});
-    for (const ControlSpec& s : OptionsMenuTail()) m.push_back(s);
-    for (const TimeEntry& e : times) m.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTime"});
-    for (const ControlSpec& s : HelpMenu()) m.push_back(s);
+    AppendControls(m, OptionsMenuTail());
+    AppendControls(m, TimeMenuEntries(times));
+    AppendControls(m, HelpMenu());
     return m;
 }
 
-void PauseOrResume(Form& window, const std::function<void(bool)>& showCards) {
+void PauseOrResume(Form& window, const std::function<void(bool)>& showCards, const char* messageLabel) {
     if (window.c("cmdPause").caption() == kPauseCaption) {
-        SetPausedControls(window);
+        SetPausedControls(window, messageLabel);
         showCards(false);
         if (PlayMusic) StopMusic();
     } else {
-        SetResumedControls(window);
+        SetResumedControls(window, messageLabel);
         showCards(true);
         if (PlayMusic && GameInProgress) StartMusic();
     }

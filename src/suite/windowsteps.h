@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Small steps that every game window takes the same way, kept here once:
-// the menus of a window without Take Score, the pause button and the Clear
+// the menus of a game window, the pause button and the Clear
 // High Scores entry.
 #pragma once
 
@@ -16,17 +16,18 @@ namespace ch {
 
 class Form;
 
-// The menus of a window whose File menu has no Take Score: "&File" with
-// mnuPlay, mnuPause, mnuExit; "&Options" with the common entries, the scoring
-// dialog's entry mnuCustom (`customCaption`), the time limit entries under
-// mnuTime and the back designs; "&Help".
-std::vector<ControlSpec> MenusWithoutTakeScore(std::span<const TimeEntry> times, const char* customCaption);
+// The menus of a game window: "&File" with mnuPlay, mnuTakeScore (unless
+// `takeScore` is false), mnuPause, mnuExit; "&Options" with the common
+// entries, the scoring dialog's entry mnuCustom (`customCaption`), the time
+// limit entries under mnuTime and the back designs; "&Help".
+std::vector<ControlSpec> GameMenus(std::span<const TimeEntry> times, const char* customCaption, bool takeScore);
 
-// cmdPause as most games have it: "Pau&se" pauses (the shared controls, the
-// cards hidden through the game's ShowCards, the music stopped), "&Resume"
-// resumes (the cards shown again, the music restarted from its beginning if
-// a game is running).
-void PauseOrResume(Form& window, const std::function<void(bool)>& showCards);
+// cmdPause as most games have it: "Pau&se" pauses (the shared controls with
+// `messageLabel` showing "Paused", the cards hidden through the game's
+// `showCards(false)`, the music stopped), "&Resume" resumes (`showCards(true)`,
+// the music restarted from its beginning if a game is running).
+void PauseOrResume(Form& window, const std::function<void(bool)>& showCards,
+                   const char* messageLabel = "lblMessage");
 
 // mnuClear: after a Yes to "This will clear all High Scores. Are You Sure?"
 // the table of the current limit gets its ten default lines and the high

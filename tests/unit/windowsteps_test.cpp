@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The menus of a game window without Take Score, in their order.
+// The menus of a game window, with and without Take Score, in their order.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -9,15 +9,20 @@
 
 using namespace ch;
 
-TEST(MenusWithoutTakeScore, FileOptionsWithTheDialogAndTimesThenHelp) {
+TEST(GameMenus, FileOptionsWithTheDialogAndTimesThenHelp) {
     const TimeEntry times[] = {{"mnu30", 30, "&30 seconds"}, {"mnu45", 45, "&45 seconds (default)"}};
-    std::vector<std::string> order;
-    for (const ControlSpec& s : MenusWithoutTakeScore(times, "&User Options..."))
-        order.push_back(std::string(s.name) + "<" + s.container);
-    const std::vector<std::string> expected = {
+    const auto order = [&times](bool takeScore) {
+        std::vector<std::string> names;
+        for (const ControlSpec& s : GameMenus(times, "&User Options...", takeScore))
+            names.push_back(std::string(s.name) + "<" + s.container);
+        return names;
+    };
+    std::vector<std::string> expected = {
         "mnuFile<", "mnuPlay<mnuFile", "mnuPause<mnuFile", "mnuExit<mnuFile", "mnuOptions<", "mnuView<mnuOptions",
         "mnuClear<mnuOptions", "mnuMusic<mnuOptions", "mnuSounds<mnuOptions", "mnuCustom<mnuOptions",
         "mnuTime<mnuOptions", "mnuDeck<mnuOptions", "mnuPalm<mnuDeck", "mnuMagic<mnuDeck", "mnuNight<mnuDeck",
         "mnuHot<mnuDeck", "mnu30<mnuTime", "mnu45<mnuTime", "mnuHelp<", "mnuRules<mnuHelp", "mnuAbout<mnuHelp"};
-    EXPECT_EQ(order, expected);
+    EXPECT_EQ(order(false), expected);
+    expected.insert(expected.begin() + 2, "mnuTakeScore<mnuFile");
+    EXPECT_EQ(order(true), expected);
 }

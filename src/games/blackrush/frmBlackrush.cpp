@@ -13,6 +13,7 @@
 #include "suite/common.h"
 #include "suite/dial.h"
 #include "suite/highscores.h"
+#include "suite/labels.h"
 #include "suite/windowsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
@@ -102,15 +103,13 @@ std::vector<ControlSpec> Menus() {
         {K::Menu, "mnuPause", -1, 0, 0, 0, 0, "P&ause", "mnuFile"},
         {K::Menu, "mnuExit", -1, 0, 0, 0, 0, "E&xit", "mnuFile"},
     };
-    const auto head = OptionsMenuHead();
-    m.insert(m.end(), head.begin(), head.end());
+    AppendControls(m, OptionsMenuHead());
     m.push_back({K::Menu, "mnuUserOptions", -1, 0, 0, 0, 0, "&User Options...", "mnuOptions"});
     m.push_back({K::Menu, "mnuTimeLimit", -1, 0, 0, 0, 0, "&Time Limit", "mnuOptions"});
     for (const TimeEntry& e : kTimeEntries) m.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTimeLimit"});
     m.push_back({K::Menu, "mnuDeck", -1, 0, 0, 0, 0, "Dec&k", "mnuOptions"});
     for (const BackDesign& d : kBackDesigns) m.push_back({K::Menu, d.menu, -1, 0, 0, 0, 0, d.caption, "mnuDeck"});
-    const auto help = HelpMenu();
-    m.insert(m.end(), help.begin(), help.end());
+    AppendControls(m, HelpMenu());
     return m;
 }
 
@@ -118,7 +117,7 @@ std::vector<ControlSpec> Layout() {
     std::vector<ControlSpec> layout;
     for (const ControlSpec& control : StandingControls())
         if (!NotHere(control)) layout.push_back(control);
-    const auto add = [&layout](std::span<const ControlSpec> part) { layout.insert(layout.end(), part.begin(), part.end()); };
+    const auto add = [&layout](std::span<const ControlSpec> part) { AppendControls(layout, part); };
     add(TakeScoreButton());
     add(ExitButton());
     static const char* const kColumnNames[kColumns] = {"Column1", "Column2", "Column3", "Column4"};

@@ -16,12 +16,8 @@ std::string BlackrushRules() {
     const blackrush::ScoringValues values = game ? game->Scoring : blackrush::ScoringValues{};
     const std::string twentyOne = FormatScore(values.TwentyOneBonusValue);
     return RulesText(33, {
-        "Requirements: To run " + AppTitle + " you need Windows 95 or above " + "and a mouse. " +
-            " Recommended: Soundcard.",
-        "As with most games, the object of " + AppTitle + " is to attain the highest number of points " +
-            "possible. The game consists of three rounds, each lasting " + FormatScore(TimeLimit) +
-            " seconds. If you earn more than " + FormatScore(values.BonusScore) +
-            " points in these rounds you are awarded an additional bonus round.",
+        RequirementsParagraph(),
+        ObjectParagraph("three", FormatScore(TimeLimit), FormatScore(values.BonusScore)),
         std::string("You earn points by creating cards combinations that total 21. ") +
             "Each card is worth it's face value (face cards are 10 points each, Aces " +
             "are worth 1 or 11 points). If any column exceeds 21 points " +

@@ -12,6 +12,7 @@
 #include "suite/frmRules.h"
 #include "suite/highscores.h"
 #include "suite/labels.h"
+#include "suite/windowsteps.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -53,7 +54,7 @@ const ControlSpec kMessages[] = {
 
 std::vector<ControlSpec> Layout() {
     std::vector<ControlSpec> specs;
-    auto add = [&specs](std::span<const ControlSpec> part) { specs.insert(specs.end(), part.begin(), part.end()); };
+    const auto add = [&specs](std::span<const ControlSpec> part) { AppendControls(specs, part); };
     add(StandingControls());
     add(TakeScoreButton());
     add(ExitButton());
@@ -66,12 +67,7 @@ std::vector<ControlSpec> Layout() {
         specs.push_back({K::Shape, "FieldSelectionRectangle", i, place.left, place.top, kCardWidth, kCardHeight});
     }
     add(kBoard);
-    add(FileMenu());
-    add(OptionsMenuHead());
-    specs.push_back({K::Menu, "mnuCustom", -1, 0, 0, 0, 0, "&User Options...", "mnuOptions"});
-    add(OptionsMenuTail());
-    for (const TimeEntry& e : kTimeEntries) specs.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTime"});
-    add(HelpMenu());
+    add(GameMenus(kTimeEntries, "&User Options...", true));
     return specs;
 }
 }  // namespace

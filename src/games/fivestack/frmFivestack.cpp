@@ -13,6 +13,7 @@
 #include "suite/common.h"
 #include "suite/dial.h"
 #include "suite/highscores.h"
+#include "suite/labels.h"
 #include "suite/windowsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
@@ -74,20 +75,6 @@ const ControlSpec kBoard[] = {
     {K::Label, "ScoringLabelInfo", -1, 1500, 3600, 4500, 285, ""},
 };
 
-// The common menus; the File menu has no Take Score, which the Give Up
-// button stands for.
-std::vector<ControlSpec> Menus() {
-    std::vector<ControlSpec> m;
-    for (const ControlSpec& s : FileMenu())
-        if (std::string(s.name) != "mnuTakeScore") m.push_back(s);
-    for (const ControlSpec& s : OptionsMenuHead()) m.push_back(s);
-    m.push_back({K::Menu, "mnuCustom", -1, 0, 0, 0, 0, "&User Options...", "mnuOptions"});
-    for (const ControlSpec& s : OptionsMenuTail()) m.push_back(s);
-    for (const ControlSpec& s : TimeMenuEntries(kTimeEntries)) m.push_back(s);
-    for (const ControlSpec& s : HelpMenu()) m.push_back(s);
-    return m;
-}
-
 bool Unused(const char* name) {
     for (const char* unused : kUnused)
         if (std::string(name) == unused) return true;
@@ -99,7 +86,7 @@ const std::vector<ControlSpec>& Layout() {
     static const std::vector<ControlSpec> specs = [] {
         std::vector<ControlSpec> all;
         std::vector<ControlSpec> standing(StandingControls().begin(), StandingControls().end());
-        standing.insert(standing.end(), QuitButton().begin(), QuitButton().end());
+        AppendControls(standing, QuitButton());
         for (ControlSpec s : standing) {
             if (Unused(s.name)) continue;
             for (const ControlPlace& p : kStandingPlaces)
@@ -119,14 +106,15 @@ const std::vector<ControlSpec>& Layout() {
             all.push_back({K::Line, kColumnLines[i], -1, kColumnLefts[i], 2520, kCardWidth, 0});
             all.push_back({K::Button, "cmdHit", i, kHitLefts[i], 5670, kCardWidth, 570, "Hit"});
         }
-        for (const ControlSpec& s : kBoard) all.push_back(s);
+        AppendControls(all, kBoard);
         for (size_t row = 0; row < kCardTotalRows.size(); ++row) {
             const CardTotalRow& r = kCardTotalRows[row];
             const int top = 300 + static_cast<int>(row) * 285;
             all.push_back({K::Label, r.rowLabel, -1, 240, top, 600, 255, r.caption, "frmScore"});
             all.push_back({K::Label, r.valueLabel, -1, 900, top, 600, 255, "", "frmScore"});
         }
-        for (const ControlSpec& s : Menus()) all.push_back(s);
+        // The File menu has no Take Score, which the Give Up button stands for.
+        AppendControls(all, GameMenus(kTimeEntries, "&User Options...", false));
         return all;
     }();
     return specs;

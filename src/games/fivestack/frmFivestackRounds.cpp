@@ -10,6 +10,7 @@
 #include "suite/dial.h"
 #include "suite/highscores.h"
 #include "suite/sound.h"
+#include "suite/windowsteps.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -117,20 +118,17 @@ void frmFivestack::cmdPause_Click() { PauseGame(); }
 
 // A paused game cannot be studied: the board and its buttons are hidden.
 void frmFivestack::PauseGame() {
-    Control& message = c("ScoringLabel");
-    if (c("cmdPause").caption() == kPauseCaption) {
-        SetPausedControls(*this, "ScoringLabel");
-        message.setForeColor(Colour::Blue);
-        CenterScoringLabel();
-        ShowCards(false);
-        ShowHitButtons(false);
-        if (PlayMusic) StopMusic();
-    } else {
-        SetResumedControls(*this, "ScoringLabel");
-        ShowCards(true);
-        ShowHitButtons(true);
-        if (PlayMusic && GameInProgress) StartMusic();
-    }
+    PauseOrResume(
+        *this,
+        [this](bool show) {
+            if (!show) {
+                c("ScoringLabel").setForeColor(Colour::Blue);
+                CenterScoringLabel();
+            }
+            ShowCards(show);
+            ShowHitButtons(show);
+        },
+        "ScoringLabel");
 }
 
 // ---- The round clock ---------------------------------------------------------------

@@ -21,12 +21,8 @@ std::string FivestackRules() {
     const float decay = game ? game->TimeBonusDecay : TimeBonusDecay(timeBonusMax, timeBonusMin, TimeLimit);
     const int cardsToPass = values.CardsToPass;
     return RulesText(33, {
-        "Requirements: To run " + AppTitle + " you need Windows 95 or above " + "and a mouse. " +
-            " Recommended: Soundcard.",
-        "As with most games, the object of " + AppTitle + " is to attain the highest number of points " +
-            "possible. The game consists of three rounds, each lasting " + NumText(TimeLimit) +
-            " seconds. If you earn more than " + FormatScore(bonusScore) +
-            " points in these rounds you are awarded an additional bonus round.",
+        RequirementsParagraph(),
+        ObjectParagraph("three", NumText(TimeLimit), FormatScore(bonusScore)),
         std::string("You earn points by creating 5 columns of cards to a maximum of 5 cards per ") +
             "column. Each card is worth it's face value (face cards are 10 points each, Aces " +
             "are worth 1 or 11 points). " + "If any column exceeds 21 points " +

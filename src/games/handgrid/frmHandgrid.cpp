@@ -11,6 +11,7 @@
 #include "suite/dial.h"
 #include "suite/frmRules.h"
 #include "suite/highscores.h"
+#include "suite/labels.h"
 #include "suite/sound.h"
 #include "suite/windowsteps.h"
 #include "window/basic.h"
@@ -76,7 +77,7 @@ const ControlSpec kBoard[] = {
 
 std::vector<ControlSpec> Layout() {
     std::vector<ControlSpec> specs;
-    auto add = [&specs](std::span<const ControlSpec> part) { specs.insert(specs.end(), part.begin(), part.end()); };
+    const auto add = [&specs](std::span<const ControlSpec> part) { AppendControls(specs, part); };
     add(StandingControls());
     add(QuitButton());
     add(ScoringLabel());
@@ -88,7 +89,7 @@ std::vector<ControlSpec> Layout() {
         specs.push_back({K::Label, "lblCol", n, kColumnLefts[n - 1], 5895, kCardWidth, 255, "Nothing"});
     }
     add(kBoard);
-    add(MenusWithoutTakeScore(kTimeEntries, "&User Options..."));
+    add(GameMenus(kTimeEntries, "&User Options...", false));
     return specs;
 }
 

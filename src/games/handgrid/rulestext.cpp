@@ -26,12 +26,8 @@ std::string HandgridRules() {
                               "   Straight Flush = " + points(StraightFlush) + "\r\n" + "   Royal Flush = " +
                               points(RoyalFlush) + "\r\n";
     return RulesText(31, {
-        "Requirements: To run " + AppTitle + " you need Windows 95 or above " + "and a mouse. " +
-            " Recommended: Soundcard.",
-        "As with most games, the object of " + AppTitle + " is to attain the highest number of points " +
-            "possible. The game consists of three rounds, each lasting " + NumText(TimeLimit) +
-            " seconds. If you earn more than " + FormatScore(bonus) +
-            " points in these rounds you are awarded an additional bonus round.",
+        RequirementsParagraph(),
+        ObjectParagraph("three", NumText(TimeLimit), FormatScore(bonus)),
         std::string("To earn points in this game you must create 10 poker hands by placing cards ") +
             "from the deck into the provided columns and rows. Once completed, each row " +
             "and each column form a complete 5 card poker hand.",

@@ -13,6 +13,7 @@
 #include "suite/dial.h"
 #include "suite/frmRules.h"
 #include "suite/highscores.h"
+#include "suite/labels.h"
 #include "suite/windowsteps.h"
 #include "window/basic.h"
 #include "window/runtime.h"
@@ -91,7 +92,7 @@ std::vector<ControlSpec> Menus() {
 
 std::vector<ControlSpec> Layout() {
     std::vector<ControlSpec> specs;
-    auto add = [&specs](std::span<const ControlSpec> part) { specs.insert(specs.end(), part.begin(), part.end()); };
+    const auto add = [&specs](std::span<const ControlSpec> part) { AppendControls(specs, part); };
     add(StandingControls());
     add(TakeScoreButton());
     add(ExitButton());

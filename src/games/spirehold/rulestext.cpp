@@ -20,12 +20,8 @@ std::string SpireholdRules() {
     return RulesText(
         33,
         {
-            "Requirements: To run " + AppTitle + " you need Windows 95 or above " + "and a mouse. " +
-                " Recommended: Soundcard.",
-            "As with most games, the object of " + AppTitle + " is to attain the highest number of points " +
-                "possible. The game consists of two rounds, each lasting " + FormatScore(TimeLimit) +
-                " seconds. If you earn more than " + FormatScore(bonusScore) +
-                " points in these rounds you are awarded an additional bonus round.",
+            RequirementsParagraph(),
+            ObjectParagraph("two", FormatScore(TimeLimit), FormatScore(bonusScore)),
             "You earn points in a number ways:",
             std::string("1. Clicking on exposed cards to create runs. For example, Ace-2-3 or 9-8-7-6-5. A run may "
                         "span from a King ") +

@@ -17,6 +17,7 @@
 #include "suite/dial.h"
 #include "suite/frmRules.h"
 #include "suite/highscores.h"
+#include "suite/labels.h"
 #include "suite/windowsteps.h"
 #include "suite/sound.h"
 #include "window/basic.h"
@@ -108,7 +109,7 @@ std::vector<ControlSpec> Menus() {
 
 std::vector<ControlSpec> Layout() {
     std::vector<ControlSpec> specs;
-    auto add = [&specs](std::span<const ControlSpec> part) { specs.insert(specs.end(), part.begin(), part.end()); };
+    const auto add = [&specs](std::span<const ControlSpec> part) { AppendControls(specs, part); };
     add(StandingControls());
     add(TakeScoreButton());
     add(ExitButton());
@@ -210,7 +211,7 @@ frmSumfall::frmSumfall(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth
     on("PlayCardPicture", Ev::Click, guarded([this](EventArgs&) { PlayCardPicture_Click(); }));
     on("PlayCardPicture", Ev::MouseMove, [this](EventArgs&) { PlayCardPicture_MouseMove(); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-    BindShared({.face = {ImageCatalogue::kSumfallSplash}});
+    BindShared({.face = {ImageCatalogue::kSplashEmblem}});
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { lblCurrentScore_Change(); });
     on("lblMessage", Ev::Change, [this](EventArgs&) { lblMessage_Change(); });
     on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });

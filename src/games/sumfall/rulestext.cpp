@@ -24,12 +24,8 @@ std::string SumfallRules() {
     const int32_t completion = values.CompletionBonus;
     const std::string takeScore = window ? Tail(window->c("cmdTakeScore").caption()) : "Take Score";
     return RulesText(30, {
-        "Requirements: To run " + AppTitle + " you need Windows 95 or above " + "and a mouse. " +
-            " Recommended: Soundcard.",
-        "As with most games, the object of " + AppTitle + " is to attain the highest number of points " +
-            "possible. The game consists of two rounds, each lasting " + NumText(TimeLimit) + " seconds. If " +
-            "you earn more than " + NumText(bonusRound) + " points in these rounds you are awarded an " +
-            "additional bonus round. You earn points in several ways:",
+        RequirementsParagraph(),
+        ObjectParagraph("two", NumText(TimeLimit), NumText(bonusRound)) + " You earn points in several ways:",
         "1. Elevens: Selecting " + std::string("exposed cards that total eleven (the card goal). You are awarded ") +
             NumText(combination) + " points for each " +
             "combination of 11's you select. These points are awarded at the end of each round. When selecting " +

@@ -89,12 +89,7 @@ std::vector<ControlSpec> Layout() {
     }
     for (int i = 0; i < 3; ++i) specs.push_back({K::Image, "UpCard", i, kUpLeft[i], 4680, kCardWidth, kCardHeight});
     specs.push_back({K::Shape, "UpCardSelection", -1, 4455, 4680, kCardWidth, kCardHeight});
-    AppendControls(specs, FileMenu());
-    AppendControls(specs, OptionsMenuHead());
-    specs.push_back({K::Menu, "mnuCustom", -1, 0, 0, 0, 0, "&User Options...", "mnuOptions"});
-    AppendControls(specs, OptionsMenuTail());
-    for (const TimeEntry& e : kTimeEntries) specs.push_back({K::Menu, e.menu, -1, 0, 0, 0, 0, e.caption, "mnuTime"});
-    AppendControls(specs, HelpMenu());
+    AppendControls(specs, GameMenus(kTimeEntries, "&User Options...", true));
     return specs;
 }
 

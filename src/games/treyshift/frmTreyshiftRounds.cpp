@@ -12,6 +12,7 @@
 #include "suite/labels.h"
 #include "suite/roundsteps.h"
 #include "suite/sound.h"
+#include "suite/windowsteps.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -87,19 +88,15 @@ void frmTreyshift::EndGame() {
 // A paused game shows no cards; the message stands over the field.
 void frmTreyshift::cmdPause_Click() {
     if (TakingScore) return;
-    if (c("cmdPause").caption() == kPauseCaption) {
-        SetPausedControls(*this);
-        Control& message = c("lblMessage");
-        CentreAcross(message);
-        const Control& field = c("FieldRect");
-        message.setTop(field.top() + (field.height() - message.height()) / 2);
-        ShowCards(false);
-        if (PlayMusic) StopMusic();
-    } else {
-        SetResumedControls(*this);
-        ShowCards(true);
-        if (PlayMusic && GameInProgress) StartMusic();
-    }
+    PauseOrResume(*this, [this](bool show) {
+        if (!show) {
+            Control& message = c("lblMessage");
+            CentreAcross(message);
+            const Control& field = c("FieldRect");
+            message.setTop(field.top() + (field.height() - message.height()) / 2);
+        }
+        ShowCards(show);
+    });
 }
 
 // ---- The clock and Take Score ------------------------------------------------------------

@@ -19,13 +19,11 @@ std::string TreyshiftRules() {
     const std::string deck = NumText(v.DeckValue);
     const std::string penalty = NumText(v.PenaltyValue);
     const std::string bonus = FormatScore(v.BonusScore);
+    // Its requirements line has a single blank before "Recommended", unlike the shared one.
     return RulesText(31, {
         "Requirements: To run " + AppTitle + " you need Windows 95 or above " + "and a mouse. " +
             "Recommended: Soundcard.",
-        "As with most games, the object of " + AppTitle + " is to attain the highest number of points " +
-            "possible. The game consists of two rounds, each lasting " + NumText(TimeLimit) +
-            " seconds. If you earn more than " + bonus + " points in these rounds you are awarded an additional "
-            "bonus round.",
+        ObjectParagraph("two", NumText(TimeLimit), bonus),
         "The " + AppTitle + " game board is separated into three sections: the storage area, the playing field, " +
             "and the deck. The playing field consists of four columns, each of which may hold up to three cards. " +
             "You earn points by creating '3 card runs' (a Run) and '3 of a kinds' (a Trip) in each column. To "
