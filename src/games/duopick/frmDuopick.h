@@ -18,6 +18,7 @@
 
 #include "games/duopick/info.h"
 #include "games/duopick/modDuopick.h"
+#include "games/duopick/modDuopickBoard.h"
 #include "suite/boardplaces.h"
 #include "suite/gameform.h"
 #include "suite/gamewindow.h"
@@ -51,16 +52,14 @@ private:
 
     // ---- The board (frmDuopickBoard.cpp)
     void Deal();
-    bool CheckForLegalMove(int index) const;
-    void ClearSelectionRectangles();
+    void ShowBoard();
     void ShowCards(bool visible);
     void ShowControls(bool visible, bool scoreVisible);
     void ShowControls(bool visible) { ShowControls(visible, visible); }
     void PlayCard_Click(int index);
-    void SecondCard(int index);
+    void CountMatch(const duopick::Step& step);
     void CardStackPicture_Click();
     void ShowStackStage();
-    void ShowCardImage(int index, const std::string& code);
 
     // ---- The rounds (frmDuopickRounds.cpp)
     void cmdPlay_Click();
@@ -76,16 +75,8 @@ private:
     void Timer1_Timer();
     void ShowScore();
 
-    // The board. DeckCards(0..22) are the field, 23 the up card, 24..51 the
-    // stack; UpCards(1..WastePos) the waste pile, its top in PlayCard(23).
-    std::vector<std::string> DeckCards = std::vector<std::string>(duopick::kDeckCardsSize);
-    std::vector<std::string> UpCards = std::vector<std::string>(duopick::kUpCardsSize);
-    int16_t WastePos = 0;
-    int16_t StackIndex = duopick::kFirstStackCard;
+    duopick::Board Board;  // the cards, the waste pile, the stack and the selection
     int16_t CardsRemaining = 0;
-    int16_t CardsSelected = 0;
-    int16_t FirstCardValue = 0;
-    int16_t FirstCardIndex = 0;
     int32_t PairsCount = 0;
     int32_t RunsCount = 0;
     bool RoundCompleted = false;

@@ -54,7 +54,6 @@ void frmDuopick::Play() {
     ShowCards(false);
     ShowControls(false, true);
     for (const char* name : {"mnuTakeScore", "mnuPause", "cmdTakeScore", "cmdPause"}) c(name).setEnabled(false);
-    c("CardStackPicture").setVisible(false);
     c("Timer1").setEnabled(false);
     ShowSplash(*this, true);
     if (PlayMusic) StopMusic();
@@ -70,8 +69,8 @@ void frmDuopick::InitRound() {
     c("lblMessage").setVisible(false);
     TakingScore = false;
     c("cmdPlay").setToolTipText(kRoundTip);
-    CardsSelected = 0;
-    FirstCardIndex = 0;
+    Board.cardsSelected = 0;
+    Board.firstCardIndex = 0;
     PairsCount = 0;
     c("lblScorePairs").setCaption(NumText(PairsCount));
     RunsCount = 0;
@@ -98,20 +97,15 @@ void frmDuopick::cmdPause_Click() {
 // when the game was paused while a round change had the cards hidden.
 void frmDuopick::PauseGame() {
     SetPausedControls(*this);
-    for (int i = 0; i <= kUpCard; ++i) c("FieldSelectionRectangle", i).setVisible(false);
-    ShowCards(false);
+    PauseBoard(Board);
+    ShowBoard();
     if (PlayMusic) StopMusic();
 }
 
 void frmDuopick::ResumeGame() {
     SetResumedControls(*this);
-    for (int i = 0; i < kFieldCards; ++i) {
-        Control& card = c("PlayCard", i);
-        card.setVisible(card.picture() != 0);
-    }
-    c("PlayCard", kUpCard).setVisible(true);
-    c("CardStackPicture").setVisible(true);
-    if (CardsSelected == 1) c("FieldSelectionRectangle", FirstCardIndex).setVisible(true);
+    ResumeBoard(Board);
+    ShowBoard();
     if (PlayMusic && GameInProgress) StartMusic();
 }
 
@@ -122,7 +116,8 @@ void frmDuopick::Timer1_Timer() {
     setMousePointer(Pointer::Hourglass);
     ShowCards(false);
     // A half-made pair counts for nothing.
-    ClearSelectionRectangles();
+    ClearSelection(Board);
+    ShowBoard();
     if (TimesUpThenScore(*this, [this] { raise(&c("cmdTakeScore"), Ev::Click); })) setMousePointer(Pointer::Default);
 }
 
@@ -145,7 +140,8 @@ void frmDuopick::TakeScore() {
     TakingScore = true;
     // The clock stands while the round is paid.
     c("Timer1").setEnabled(false);
-    ClearSelectionRectangles();
+    ClearSelection(Board);
+    ShowBoard();
     const char* const buttons[] = {"cmdTakeScore", "cmdPause", "cmdExit", "cmdPlay"};
     for (const char* name : buttons) c(name).setEnabled(false);
     setMousePointer(Pointer::Hourglass);

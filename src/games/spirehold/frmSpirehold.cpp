@@ -171,9 +171,9 @@ frmSpirehold::frmSpirehold(Runtime& runtime) : GameForm(runtime, kGame, kDesignW
     expose("BonusScore", Expose(Scoring.BonusScore));
     expose("HighRunBonus", Expose(Scoring.HighRunBonus));
     expose("TowerBonus", Expose(Scoring.TowerBonus));
-    expose("StackIndex", Expose(StackIndex));
-    expose("UpCardCode", Expose(UpCardCode));
-    expose("UpCardValue", Expose(UpCardValue));
+    expose("StackIndex", Expose(Board.stackIndex));
+    expose("UpCardCode", Expose(Board.upCardCode));
+    expose("UpCardValue", Expose(Board.upCardValue));
     expose("CurrentRun", Expose(CurrentRun));
     expose("HighestRun", Expose(HighestRun));
     expose("RunValue", Expose(RunValue));
@@ -181,7 +181,7 @@ frmSpirehold::frmSpirehold(Runtime& runtime) : GameForm(runtime, kGame, kDesignW
     expose("TowersCompleted", Expose(TowersCompleted));
     expose("NewHighRun", Expose(NewHighRun));
     expose("CurrentRound", Expose(CurrentRound));
-    expose("DeckCards", Expose(DeckCards));
+    expose("DeckCards", Expose(Board.deckCards));
 }
 
 // ---- Loading and closing ---------------------------------------------------------

@@ -15,6 +15,7 @@
 
 #include "games/spirehold/info.h"
 #include "games/spirehold/modSpirehold.h"
+#include "games/spirehold/modSpireholdBoard.h"
 #include "suite/boardplaces.h"
 #include "suite/gameform.h"
 #include "suite/gamewindow.h"
@@ -63,10 +64,10 @@ private:
     void HighRunScore();
     void GameOver();
     void EndOnError(const RuntimeError& error);
-    bool CheckForLegalMove(int index);
-    void TakeCard(int index);
+    void TakeCardAt(int index);
 
     // What the window shows.
+    void ShowBoard();
     void ShowCards(bool visible, bool disable = true);
     void ShowControls(bool visible);
     void ShowControls(bool visible, bool scoreVisible);
@@ -75,16 +76,12 @@ private:
     void HideTowerLabels();
     void ShowScore();
     void ShowCardsRemaining();
-    void ShowPicture(const char* name, int index, const std::string& code);
     void PlaceBoard();
     bool GameRunning() const;
     SettingsLayout SettingsSections() override;
 
     // The board.
-    std::vector<std::string> DeckCards = std::vector<std::string>(spirehold::kDeckCardsSize);
-    int16_t StackIndex = spirehold::kFirstStackIndex;
-    std::string UpCardCode;
-    int16_t UpCardValue = spirehold::kNoRank;
+    spirehold::Board Board;  // the towers, the up card, the stack and the deck's order
     int16_t CurrentRun = 0;
     int16_t HighestRun = 0;
     int16_t RunValue = 0;

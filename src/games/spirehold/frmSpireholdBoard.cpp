@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Spirehold's board: the deal, the legal move, the clicks on the tower
 // cards, the stack and the up card, the run labels, and what the board shows.
-#include <array>
-#include <cstdint>
-
+// The moves are decided on the board (modSpireholdBoard.h); the controls show
+// it after each click.
 #include "games/spirehold/frmSpirehold.h"
 #include "suite/cards.h"
 #include "suite/common.h"
@@ -17,30 +16,23 @@ namespace ch {
 
 using namespace spirehold;
 
+namespace {
+int PictureOf(const Place& place) {
+    return place.card.empty() ? place.back : ImageList2().indexOf(CardKey(place.card));
+}
+
+void ShowPlace(Control& control, const Place& place) {
+    control.setPicture(PictureOf(place));
+    control.setEnabled(place.enabled);
+    control.setVisible(place.onTable);
+}
+}  // namespace
+
 // ---- The deal --------------------------------------------------------------------
 
 void frmSpirehold::Deal() {
-    const int back = ImageList2().indexOf("BACK");
-    for (int i = 0; i <= kLastDealtIndex; ++i) {
-        DeckCards[static_cast<size_t>(i)] = Deck[static_cast<size_t>(i) + 1];
-        if (i < kTopRowCards) {
-            c("UpCardImage", i).setPicture(back);
-        } else if (i < kTowerCards) {
-            Control& card = c("UpCardImage", i);
-            ShowPicture("UpCardImage", i, DeckCards[static_cast<size_t>(i)]);
-            card.setEnabled(true);
-            card.setVisible(true);
-        } else if (i == kLastDealtIndex) {
-            ShowPicture("UpCardPicture", -1, DeckCards[static_cast<size_t>(i)]);
-            c("UpCardPicture").setEnabled(true);
-            UpCardCode = DeckCards[static_cast<size_t>(i)];
-            UpCardValue = static_cast<int16_t>(Rank(UpCardCode));
-        }
-    }
-    StackIndex = kFirstStackIndex;
-    ShowCards(true);
-    c("UpCardPicture").setVisible(true);
-    c("CardStackPicture").setVisible(true);
+    DealBoard(Board, Deck, ImageList2().indexOf("BACK"));
+    ShowBoard();
     c("CardStackPicture").setPicture(ImageList2().indexOf("FULL"));
     CardsRemaining = kCardsInStack;
     ShowCardsRemaining();
@@ -52,36 +44,29 @@ void frmSpirehold::Deal() {
     NewHighRun = false;
 }
 
-// ---- The legal move ----------------------------------------------------------------
+// ---- The board on the controls -------------------------------------------------------
 
-// A face-down card (it shows the current back) is never legal.
-bool frmSpirehold::CheckForLegalMove(int index) {
-    const Control& card = c("UpCardImage", index);
-    if (card.picture() == ImageList2().indexOf("BACK")) return false;
-    const int rank = Rank(DeckCards[static_cast<size_t>(index)]);
-    if (!IsNeighbour(rank, UpCardValue)) return false;
-    UpCardValue = static_cast<int16_t>(rank);
-    return true;
+void frmSpirehold::ShowBoard() {
+    for (int i = 0; i < kTowerCards; ++i) ShowPlace(c("UpCardImage", i), Board.towers[static_cast<size_t>(i)]);
+    ShowPlace(c("UpCardPicture"), Board.upCard);
+    c("CardStackPicture").setVisible(Board.stackShown);
 }
 
 // ---- Clicks --------------------------------------------------------------------------
 
 void frmSpirehold::UpCardImage_Click(int index) {
     if (TakingScore) return;
-    EndingOnError([&] { TakeCard(index); }, [this](const RuntimeError& error) { EndOnError(error); });
+    EndingOnError([&] { TakeCardAt(index); }, [this](const RuntimeError& error) { EndOnError(error); });
 }
 
-void frmSpirehold::TakeCard(int index) {
-    if (!CheckForLegalMove(index)) {
+// A face-down card (it shows the current back) is never taken.
+void frmSpirehold::TakeCardAt(int index) {
+    if (!TakeCard(Board, index, ImageList2().indexOf("BACK"))) {
         Wave("\\Chord.wav");
         return;
     }
     Wave("\\Markq.wav");
-    Control& card = c("UpCardImage", index);
-    c("UpCardPicture").setPicture(card.picture());
-    // The empty picture marks the card as gone.
-    card.setPicture(0);
-    card.setVisible(false);
+    ShowBoard();
     RunValue = CInt(static_cast<double>(RunValue) + Scoring.CardValue);
     AddToScore(RunValue);
     ShowScore();
@@ -95,12 +80,8 @@ void frmSpirehold::TakeCard(int index) {
         TowersCompleted += 1;
         Wave("\\HighScore.wav");
     } else {
-        std::array<bool, kTowerCards> onTable{};
-        for (int i = 0; i < kTowerCards; ++i) onTable[static_cast<size_t>(i)] = c("UpCardImage", i).visible();
-        for (int p : CardsTurnedBy(index, onTable)) {
-            ShowPicture("UpCardImage", p, DeckCards[static_cast<size_t>(p)]);
-            c("UpCardImage", p).setEnabled(true);
-        }
+        TurnCardsBy(Board, index);
+        ShowBoard();
     }
     if (TowersCompleted == 3) cmdTakeScore_Click();
 }
@@ -114,9 +95,8 @@ void frmSpirehold::lblCurrentRun_Change() {
     c("lblNextCard").setCaption("Next card worth: " + NumText((CurrentRun + 1LL) * Scoring.CardValue) + " points");
 }
 
-// Each step goes on whatever the one before did: past the end of the deck
-// the up card keeps its picture and, past DeckCards(52), its value. At the
-// top of its 16-bit range StackIndex can't be raised, and stays.
+// A click ends the run; past the stack's end the stack's picture stays and
+// the click is refused with a chord.
 void frmSpirehold::CardStackPicture_Click() {
     if (TakingScore) return;
     setMousePointer(Pointer::Hourglass);
@@ -126,10 +106,9 @@ void frmSpirehold::CardStackPicture_Click() {
     CardsRemaining = static_cast<int16_t>(CardsRemaining - 1 < 0 ? 0 : CardsRemaining - 1);
     ShowCardsRemaining();
     Wave("\\Click.wav");
-    if (StackIndex + 1 <= DeckUpperBound()) ShowPicture("UpCardPicture", -1, Deck[static_cast<size_t>(StackIndex) + 1]);
-    if (StackIndex < INT16_MAX) StackIndex += 1;
-    if (StackIndex - 1 < kDeckCardsSize) UpCardValue = static_cast<int16_t>(Rank(DeckCards[static_cast<size_t>(StackIndex) - 1]));
-    const std::string stage = StackStageKey(StackIndex);
+    ClickStack(Board, Deck);
+    ShowBoard();
+    const std::string stage = StackStageKey(Board.stackIndex);
     if (stage.empty())
         Wave("\\Chord.wav");
     else
@@ -142,13 +121,8 @@ void frmSpirehold::UpCardPicture_Click() { Wave("\\Chord.wav"); }
 // ---- What the board shows ------------------------------------------------------------
 
 void frmSpirehold::ShowCards(bool visible, bool disable) {
-    for (int i = 0; i < kTowerCards; ++i) {
-        Control& card = c("UpCardImage", i);
-        card.setVisible(visible);
-        if (disable && i < kTopRowCards) card.setEnabled(false);
-    }
-    c("CardStackPicture").setVisible(visible);
-    c("UpCardPicture").setVisible(visible);
+    ShowCardsOnBoard(Board, visible, disable);
+    ShowBoard();
 }
 
 void frmSpirehold::ShowControls(bool visible) { ShowControls(visible, visible); }
@@ -164,17 +138,14 @@ void frmSpirehold::ShowControls(bool visible, bool scoreVisible) {
 }
 
 void frmSpirehold::RefreshPlayCard() {
-    const std::string stage = StackStageKey(StackIndex);
+    const std::string stage = StackStageKey(Board.stackIndex);
     if (!stage.empty()) c("CardStackPicture").setPicture(ImageList2().indexOf(stage));
 }
 
 // Face-down cards follow a change of the back design; faces are not touched.
 void frmSpirehold::RefreshFieldCards() {
-    const int back = ImageList2().indexOf("BACK");
-    for (int i = 0; i < kTowerCards; ++i) {
-        Control& card = c("UpCardImage", i);
-        if (card.visible() && !card.enabled()) card.setPicture(back);
-    }
+    RedrawBacks(Board, ImageList2().indexOf("BACK"));
+    ShowBoard();
 }
 
 void frmSpirehold::HideTowerLabels() {
@@ -184,9 +155,5 @@ void frmSpirehold::HideTowerLabels() {
 void frmSpirehold::ShowScore() { c("lblCurrentScore").setCaption(FormatScore(CurrentScore)); }
 
 void frmSpirehold::ShowCardsRemaining() { c("lblCards").setCaption(NumText(CardsRemaining)); }
-
-void frmSpirehold::ShowPicture(const char* name, int index, const std::string& code) {
-    c(name, index).setPicture(ImageList2().indexOf(CardKey(code)));
-}
 
 }  // namespace ch

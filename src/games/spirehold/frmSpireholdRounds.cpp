@@ -98,12 +98,8 @@ void frmSpirehold::cmdPause_Click() {
         return;
     }
     SetResumedControls(*this);
-    for (int i = 0; i < kTowerCards; ++i) {
-        Control& card = c("UpCardImage", i);
-        card.setVisible(card.picture() != 0);
-    }
-    c("CardStackPicture").setVisible(true);
-    c("UpCardPicture").setVisible(true);
+    ResumeBoard(Board);
+    ShowBoard();
     if (PlayMusic && GameInProgress) StartMusic();
 }
 
