@@ -7,7 +7,12 @@
 
 namespace ch {
 
-Form::Form(Runtime& runtime, std::string name) : runtime_(&runtime), name_(std::move(name)) {}
+namespace {
+uint64_t nextFormSerial = 1;
+}  // namespace
+
+Form::Form(Runtime& runtime, std::string name)
+    : runtime_(&runtime), name_(std::move(name)), serial_(nextFormSerial++) {}
 
 Form::~Form() = default;
 

@@ -4,6 +4,7 @@
 // control name and event, so a window's file reads as its list of handlers.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -42,6 +43,9 @@ public:
 
     Runtime& runtime() const { return *runtime_; }
     const std::string& name() const { return name_; }
+    // Unique to this form object for the life of the process: a form loaded again after an unload may
+    // sit at the same address, but it is a new window and gets a new serial.
+    uint64_t serial() const { return serial_; }
 
     // Controls.
     Control& add(const ControlSpec& spec);
@@ -110,6 +114,7 @@ private:
 
     Runtime* runtime_;
     std::string name_;
+    uint64_t serial_;
     std::vector<std::unique_ptr<Control>> controls_;
     std::map<std::string, std::map<int, Control*>> byName_;
     std::map<std::pair<std::string, Ev>, Handler> handlers_;

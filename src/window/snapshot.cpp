@@ -87,6 +87,7 @@ bool SameHeader(const FormSnap& a, const FormSnap& b) {
 
 struct SnapshotTaker::Sent {
     const Form* form = nullptr;
+    uint64_t serial = 0;
     uint64_t instance = 0;
     bool sentOnce = false;
     FormSnap header;                 // as last sent, without controls
@@ -100,13 +101,14 @@ std::shared_ptr<const Snapshot> SnapshotTaker::take(const Runtime& runtime) {
     auto snap = std::make_shared<Snapshot>();
     std::vector<std::unique_ptr<Sent>> live;
     for (const Form* form : runtime.loadedForms()) {
-        auto known = std::find_if(sent_.begin(), sent_.end(), [form](const auto& s) { return s && s->form == form; });
+        auto known = std::find_if(sent_.begin(), sent_.end(), [form](const auto& s) { return s && s->form == form && s->serial == form->serial(); });
         std::unique_ptr<Sent> sent;
         if (known != sent_.end()) {
             sent = std::move(*known);
         } else {
             sent = std::make_unique<Sent>();
             sent->form = form;
+            sent->serial = form->serial();
             sent->instance = nextInstance_++;
         }
         const bool fresh = !sent->sentOnce;
