@@ -3,6 +3,7 @@
 // Runs the suite on the headless platform, driven by a script. Exit status:
 // 0 when every expectation held, 1 after any FAIL, 2 after an ERROR.
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <optional>
@@ -100,6 +101,8 @@ int main(int argc, char** argv) {
         ch::Runtime runtime(platform);
         ch::ScriptRunner runner(runtime, platform, in, std::cout);
         runner.setTracing(trace);
+        if (!scriptPath.empty() && scriptPath != "-")
+            runner.setFolder(std::filesystem::path(scriptPath).parent_path().string());
         platform.setSource([&runner] { return runner.next(); });
         platform.setFailureReporter([&runner](const std::string& text) { runner.fail(text); });
         ch::randomness::SetFailureReporter([&runner](const std::string& text) { runner.fail(text); });

@@ -155,16 +155,21 @@ void ScriptRunner::print(const std::string& line) {
     out_.flush();
 }
 
+std::string ScriptRunner::where() const {
+    if (included_.empty()) return std::to_string(line_);
+    return included_.back().name + ":" + std::to_string(included_.back().line);
+}
+
 void ScriptRunner::error(const std::string& text) {
-    print("ERROR " + std::to_string(line_) + ": " + text);
+    print("ERROR " + where() + ": " + text);
     throw ScriptError{};
 }
 
-void ScriptRunner::fail(const std::string& text) { failAt(line_, text); }
+void ScriptRunner::fail(const std::string& text) { failAt(where(), text); }
 
-void ScriptRunner::failAt(int line, const std::string& text) {
+void ScriptRunner::failAt(const std::string& where, const std::string& text) {
     ++failures_;
-    print("FAIL " + std::to_string(line) + ": " + text);
+    print("FAIL " + where + ": " + text);
 }
 
 void ScriptRunner::trace(const std::string& text) {
@@ -254,6 +259,11 @@ bool FormProperty(const Form& f, const std::string& p, std::string& out) {
 }
 }  // namespace
 
+std::string ScriptRunner::valueOf(const std::string& expr) {
+    if (std::optional<std::string> group = evaluateGroup(expr)) return *group;
+    return evaluate(expr).text;
+}
+
 ScriptRunner::Result ScriptRunner::evaluate(const std::string& expr) {
     std::vector<Segment> s;
     if (!ParseReference(expr, s)) error("cannot read the reference " + expr);
@@ -324,8 +334,7 @@ HeadlessPlatform::Step ScriptRunner::next() {
     HeadlessPlatform::Step quit;
     quit.kind = HeadlessPlatform::Step::Kind::Quit;
     std::string text;
-    while (!ended_ && std::getline(in_, text)) {
-        ++line_;
+    while (!ended_ && readLine(text)) {
         std::string trimmed = Trim(text);
         while (!trimmed.empty() && (trimmed.back() == '\r' || trimmed.back() == '\t')) trimmed.pop_back();
         if (trimmed.empty() || trimmed[0] == '#') continue;
@@ -339,6 +348,62 @@ HeadlessPlatform::Step ScriptRunner::next() {
     }
     ended_ = true;
     return quit;
+}
+
+bool ScriptRunner::readLine(std::string& text) {
+    while (!included_.empty()) {
+        Included& top = included_.back();
+        if (std::getline(*top.in, text)) {
+            ++top.line;
+            return true;
+        }
+        included_.pop_back();
+    }
+    if (!std::getline(in_, text)) return false;
+    ++line_;
+    return true;
+}
+
+std::optional<std::string> ScriptRunner::evaluateGroup(const std::string& expr) {
+    // The names of the group and the text before and after them.
+    std::vector<std::string> names;
+    size_t from = 0;
+    size_t to = 0;
+    const size_t brace = expr.find('{');
+    const size_t dots = expr.find("..");
+    if (brace != std::string::npos) {
+        to = expr.find('}', brace);
+        if (to == std::string::npos) error("a group is not closed: " + expr);
+        from = brace;
+        std::string list = expr.substr(brace + 1, to - brace - 1);
+        for (size_t start = 0;;) {
+            const size_t comma = list.find(',', start);
+            names.push_back(list.substr(start, comma - start));
+            if (comma == std::string::npos) break;
+            start = comma + 1;
+        }
+        ++to;
+    } else if (dots != std::string::npos) {
+        from = expr.rfind('(', dots);
+        to = expr.find(')', dots);
+        long long first = 0;
+        long long last = 0;
+        if (from == std::string::npos || to == std::string::npos ||
+            !IsNumber(expr.substr(from + 1, dots - from - 1), first) ||
+            !IsNumber(expr.substr(dots + 2, to - dots - 2), last) || last < first || last - first > 100)
+            error("a range is (FIRST..LAST): " + expr);
+        for (long long i = first; i <= last; ++i) names.push_back("(" + std::to_string(i) + ")");
+        ++to;
+    } else {
+        return std::nullopt;
+    }
+    std::string joined;
+    for (const std::string& name : names) {
+        const Result one = evaluate(expr.substr(0, from) + name + expr.substr(to));
+        if (!joined.empty()) joined += ' ';
+        joined += one.text.empty() ? "-" : one.text;
+    }
+    return joined;
 }
 
 std::optional<HeadlessPlatform::Step> ScriptRunner::execute(const std::vector<std::string>& t) {
@@ -478,15 +543,16 @@ std::optional<HeadlessPlatform::Step> ScriptRunner::execute(const std::vector<st
         std::vector<Segment> segments;
         for (; i < n; i += 3) {
             if (t[i] != "expect" || i + 2 >= n) error(kUsage);
-            if (!ParseReference(t[i + 1], segments)) error("cannot read the reference " + t[i + 1]);
+            const bool group = t[i + 1].find('{') != std::string::npos || t[i + 1].find("..") != std::string::npos;
+            if (!group && !ParseReference(t[i + 1], segments)) error("cannot read the reference " + t[i + 1]);
             expects.emplace_back(t[i + 1], t[i + 2]);
         }
         std::function<void()> onOpen;
         if (!expects.empty())
-            onOpen = [this, expects, line = line_] {
+            onOpen = [this, expects, at = where()] {
                 for (const auto& [ref, expected] : expects) {
-                    const std::string actual = evaluate(ref).text;
-                    if (actual != expected) failAt(line, ref + " = " + actual + " (expected " + expected + ")");
+                    const std::string actual = valueOf(ref);
+                    if (actual != expected) failAt(at, ref + " = " + actual + " (expected " + expected + ")");
                 }
             };
         // "first" and "second" press a button by its place, whatever the box holds.
@@ -532,7 +598,7 @@ std::optional<HeadlessPlatform::Step> ScriptRunner::execute(const std::vector<st
     }
     if (cmd == "print") {
         needs(2);
-        print(evaluate(t[1]).text);
+        print(valueOf(t[1]));
         return std::nullopt;
     }
     if (cmd == "sounds") {
@@ -582,8 +648,7 @@ std::optional<HeadlessPlatform::Step> ScriptRunner::execute(const std::vector<st
             return std::nullopt;
         }
         needs(3);
-        Result result = evaluate(t[1]);
-        expectEqual(t[1], result.text, t[2]);
+        expectEqual(t[1], valueOf(t[1]), t[2]);
         return std::nullopt;
     }
     if (cmd == "fault") {
@@ -615,6 +680,17 @@ std::optional<HeadlessPlatform::Step> ScriptRunner::execute(const std::vector<st
         auto it = kResults.find(t[1]);
         if (it == kResults.end()) error("browser takes opens, none or fails");
         platform_.setWebResult(it->second);
+        return std::nullopt;
+    }
+    if (cmd == "include") {
+        // include FILE: the lines of FILE (beside this script) run here, as if written in its place.
+        needs(2);
+        if (included_.size() >= 8) error("include goes more than 8 deep");
+        Included next;
+        next.name = t[1];
+        next.in = std::make_unique<std::ifstream>(folder_ + "/" + t[1]);
+        if (!*next.in) error("cannot read " + t[1]);
+        included_.push_back(std::move(next));
         return std::nullopt;
     }
     if (cmd == "quit") {

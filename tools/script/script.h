@@ -4,7 +4,9 @@
 // the middle of a handler is filled in by the lines that follow.
 #pragma once
 
+#include <fstream>
 #include <istream>
+#include <memory>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -43,6 +45,8 @@ public:
     void fail(const std::string& text);
     void trace(const std::string& text);
     void setTracing(bool on) { tracing_ = on; }
+    // The folder that "include FILE" reads from: the script's own.
+    void setFolder(std::string folder) { folder_ = folder.empty() ? "." : std::move(folder); }
     int failures() const { return failures_; }
 
     // Splits a line into tokens: blanks separate, double quotes hold blanks,
@@ -64,8 +68,17 @@ private:
 
     std::optional<HeadlessPlatform::Step> execute(const std::vector<std::string>& tokens);
     [[noreturn]] void error(const std::string& text);
-    void failAt(int line, const std::string& text);
+    void failAt(const std::string& where, const std::string& text);
+    // "12", or "opening.script:3" inside an included file.
+    std::string where() const;
     Result evaluate(const std::string& expr);
+    // A group: FORM.NAME(a..b).Prop or FORM.{NAME1,NAME2}.Prop, each value in
+    // turn, separated by blanks, "-" for an empty one; nullopt for a plain reference.
+    std::optional<std::string> evaluateGroup(const std::string& expr);
+    // A reference's value, or a group's values.
+    std::string valueOf(const std::string& expr);
+    // The next line of the script, from an included file first; false at the end.
+    bool readLine(std::string& text);
     // Resolves a control reference for an input command; false when its form
     // is not loaded (a FAIL already printed).
     bool target(const std::string& ref, InputEvent& event);
@@ -83,6 +96,13 @@ private:
     bool tracing_ = false;
     bool ended_ = false;
     std::vector<MessageBox> unread_;
+    std::string folder_ = ".";
+    struct Included {
+        std::unique_ptr<std::ifstream> in;
+        std::string name;
+        int line = 0;
+    };
+    std::vector<Included> included_;
 };
 
 }  // namespace ch
