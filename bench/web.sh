@@ -22,7 +22,7 @@ runs=${1:-5}
 here=$(cd "$(dirname "$0")/.." && pwd)
 build=$(cd "${2:-$here/build-web}" && pwd)
 [ -f "$build/site/index.html" ] || { echo "no $build/site: build it first (./run.sh --web)" >&2; exit 1; }
-(cd "$here/web/tests" && [ -d node_modules ] || npm ci --no-audit --no-fund --loglevel=error)
+(cd "$here/tests/web" && [ -d node_modules ] || npm ci --no-audit --no-fund --loglevel=error)
 
 echo "== desktop ($build/cardhaven)"
 "$here/bench/startup.sh" "$runs" "$build" | sed 's/^/desktop_/'

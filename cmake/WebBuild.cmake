@@ -62,7 +62,7 @@ if(CARDHAVEN_QT)
   add_dependencies(cardhaven_site cardhaven_web cardhaven cardhaven_data)
 endif()
 
-# The page in a headless Chromium (web/tests). Skipped, and said so, where no
+# The page in a headless Chromium (tests/web). Skipped, and said so, where no
 # Chromium can run; never in CI.
 if(CARDHAVEN_TESTS AND CARDHAVEN_QT)
   add_test(NAME web.page COMMAND ${PROJECT_SOURCE_DIR}/tools/web/page-tests.sh ${CARDHAVEN_SITE_DIR})

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# tools/web/page-tests.sh SITE: runs web/tests in a headless Chromium against
+# tools/web/page-tests.sh SITE: runs tests/web in a headless Chromium against
 # the site folder, installing the tests' npm packages from the lock file
 # first. Exit 77 (skipped) where no Chromium can run, except in CI.
 set -euo pipefail
 site=$(cd "$1" && pwd)
-tests=$(cd "$(dirname "$0")/../../web/tests" && pwd)
+tests=$(cd "$(dirname "$0")/../../tests/web" && pwd)
 chromium=${CHROMIUM:-/usr/bin/chromium}
 if ! [ -x "$chromium" ] || ! "$chromium" --headless=new --no-sandbox --disable-gpu --dump-dom about:blank >/dev/null 2>&1; then
     if [ "${CI:-}" = "true" ]; then
