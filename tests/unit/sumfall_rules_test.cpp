@@ -4,6 +4,7 @@
 #include <map>
 
 #include "games/sumfall/modSumfall.h"
+#include "games/sumfall/modSumfallBoard.h"
 #include "window/basic.h"
 
 using namespace ch;
@@ -89,4 +90,18 @@ TEST(SavedGames, VerdictsByScore) {
         {160000, "earned an incredible"},  {160001, "earned an unbelievable"},
     };
     for (const auto& [score, verdict] : verdicts) EXPECT_EQ(SavedGameVerdict(score), verdict) << score;
+}
+
+// The up pile has room for 31 cards; turning 42 unused grows it, and the last
+// one turned is the first up card again.
+TEST(SumfallBoard, TheUpPileGrowsPastItsRoomAndAnEmptyPileRefusesAClick) {
+    Board board;
+    DealBoard(board, DeckForCardGoal(15));
+    while (board.stockIndex >= 0) TurnUpCard(board);
+    EXPECT_EQ(board.upIndex, 43);
+    EXPECT_EQ(board.up[43], board.up[1]);
+    EXPECT_EQ(board.pileKey, "EMPTY");
+    while (board.upIndex > 0) TakeUpCard(board);
+    EXPECT_TRUE(board.upEmpty);
+    EXPECT_EQ(ClickUp(board, 15).outcome, Outcome::Refused);
 }
