@@ -64,6 +64,10 @@ TEST(SavedGames, CodesAreStoredTrimmedARoundNeverDealtHasNoBlockAndACommaEndsThe
     EXPECT_EQ(back.userName, "Smith");
     EXPECT_EQ(back.round2[1], "");
     EXPECT_EQ(back.round3[1], "11D");
+    // A field in double quotes may hold a comma; what follows the quotes is skipped.
+    ASSERT_TRUE(ParseSavedGame("[Card Goal]\r\n11\r\n[UserName]\r\n  \"Smith, John\" x\r\n[Score]\r\n7\r\n", back));
+    EXPECT_EQ(back.userName, "Smith, John");
+    EXPECT_EQ(back.score, 7);
 }
 
 TEST(SavedGames, DamagedFilesAreRefused) {
