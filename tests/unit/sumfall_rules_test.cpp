@@ -1,136 +1,73 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <map>
 
 #include "games/sumfall/modSumfall.h"
+#include "games/sumfall/modSumfallBoard.h"
 #include "window/basic.h"
 
 using namespace ch;
 using namespace ch::sumfall;
 
-namespace {
-std::map<std::string, int> Count(const std::vector<std::string>& deck) {
-    std::map<std::string, int> counts;
-    for (size_t i = 1; i < deck.size(); ++i) ++counts[Trim(deck[i])];
-    return counts;
-}
-std::array<bool, kFieldPlaces> FullField() {
-    std::array<bool, kFieldPlaces> f{};
-    f.fill(true);
-    return f;
-}
-}  // namespace
-
-TEST(SumfallDeck, HasSixteenAcesAndNoFaceCardsUpToGoalEleven) {
-    for (int goal : {10, 11}) {
+TEST(SumfallDeck, SixteenAcesAndTensGrowByJacksQueensAndKingsWithTheGoal) {
+    const std::map<int, size_t> sizes = {{10, 52}, {11, 52}, {12, 56}, {13, 60}, {14, 64}, {15, 64}};
+    for (const auto& [goal, size] : sizes) {
         const auto deck = DeckForCardGoal(goal);
-        ASSERT_EQ(deck.size(), 53u);
-        EXPECT_EQ(deck[0], "");
-        EXPECT_EQ(deck[1], "1S");
-        EXPECT_EQ(deck[16], "1D");
-        EXPECT_EQ(deck[17], " 2S");
-        EXPECT_EQ(deck[25], " 10S");
-        EXPECT_EQ(deck[52], " 10D");
-        auto counts = Count(deck);
-        EXPECT_EQ(counts["1S"], 4);
-        EXPECT_EQ(counts["10H"], 1);
-        EXPECT_EQ(counts.count("11S"), 0u);
+        ASSERT_EQ(deck.size(), size + 1) << goal;
+        EXPECT_EQ(StockUpperBound(goal), static_cast<int>(size) - 22) << goal;
+        std::map<std::string, int> counts;
+        for (size_t i = 1; i < deck.size(); ++i) ++counts[Trim(deck[i])];
+        EXPECT_EQ(counts["1S"] + counts["1H"] + counts["1C"] + counts["1D"], 16) << goal;
+        EXPECT_EQ(counts["10D"], 1) << goal;
+        EXPECT_EQ(counts["13D"], size == 64 ? 1 : 0) << goal;
+        EXPECT_EQ(counts["12C"], size >= 60 ? 1 : 0) << goal;
     }
-    EXPECT_EQ(StockUpperBound(11), 30);
+    EXPECT_EQ(DeckForCardGoal(11)[17], " 2S");
+    EXPECT_EQ(DeckForCardGoal(12).back(), "11D");
 }
 
-TEST(SumfallDeck, GrowsByJacksQueensAndKingsWithTheGoal) {
-    auto d12 = DeckForCardGoal(12);
-    ASSERT_EQ(d12.size(), 57u);
-    EXPECT_EQ(std::vector<std::string>(d12.begin() + 53, d12.end()),
-              (std::vector<std::string>{"11S", "11H", "11C", "11D"}));
-    EXPECT_EQ(DeckForCardGoal(13).size(), 61u);
-    EXPECT_EQ(DeckForCardGoal(13).back(), "12D");
-    EXPECT_EQ(DeckForCardGoal(14), DeckForCardGoal(15));
-    EXPECT_EQ(DeckForCardGoal(15).back(), "13D");
-    EXPECT_EQ(StockUpperBound(15), 42);
-    EXPECT_EQ(StockUpperBound(13), 38);
+// A place is open when none of the places that lie over it still holds a card.
+TEST(SumfallField, EachPlaceIsCoveredByExactlyThePlacesOverIt) {
+    const std::vector<std::vector<int>> over = {{3, 4},   {5, 6},   {8, 9},   {7, 12}, {7, 13}, {10, 11},
+                                                {11, 12}, {},       {13, 14}, {14, 15}, {16},   {16, 17},
+                                                {17},     {18},     {18, 19}, {19},    {20},    {20},
+                                                {21},     {21},     {},       {}};
+    for (int place = 0; place < kFieldPlaces; ++place) {
+        std::array<bool, kFieldPlaces> field{};
+        field.fill(true);
+        EXPECT_EQ(IsExposed(place, field), over[static_cast<size_t>(place)].empty()) << place;
+        for (int cover : over[static_cast<size_t>(place)]) field[static_cast<size_t>(cover)] = false;
+        EXPECT_TRUE(IsExposed(place, field)) << place;
+        for (int cover : over[static_cast<size_t>(place)]) {
+            field[static_cast<size_t>(cover)] = true;
+            EXPECT_FALSE(IsExposed(place, field)) << place << " under " << cover;
+            field[static_cast<size_t>(cover)] = false;
+        }
+    }
 }
 
-TEST(SumfallField, PlaceSevenIsOpenFromTheStartAndPlaceZeroIsNot) {
-    auto field = FullField();
-    EXPECT_TRUE(IsExposed(7, field));
-    EXPECT_FALSE(IsExposed(0, field));
-    EXPECT_TRUE(IsExposed(20, field));
-    EXPECT_TRUE(IsExposed(21, field));
-    EXPECT_FALSE(IsExposed(16, field));
-    field[3] = false;
-    EXPECT_FALSE(IsExposed(0, field));
-    field[4] = false;
-    EXPECT_TRUE(IsExposed(0, field));
-    int open = 0;
-    for (int i = 0; i < kFieldPlaces; ++i) open += IsExposed(i, FullField()) ? 1 : 0;
-    EXPECT_EQ(open, 3);  // 7, 20 and 21
-}
-
-TEST(SumfallField, TiersPayFromTwoHundredAtTheBottomToSevenHundredAtTheTop) {
-    EXPECT_EQ(kField[0].points, 700);
-    EXPECT_EQ(kField[4].points, 600);
-    EXPECT_EQ(kField[7].points, 500);
-    EXPECT_EQ(kField[15].points, 400);
-    EXPECT_EQ(kField[19].points, 300);
-    EXPECT_EQ(kField[21].points, 200);
-    for (const FieldPlace& p : kField) EXPECT_EQ(p.points, 100 + 100 * p.tier);
-    EXPECT_EQ(kField[10].dx, -3960);
-    EXPECT_EQ(kField[21].dy, 2500);
-}
-
-TEST(SumfallWords, NameTheGoal) {
-    EXPECT_EQ(CardGoalWord(10), "Tens:");
-    EXPECT_EQ(CardGoalWord(11), "Elevens:");
-    EXPECT_EQ(CardGoalWord(15), "Fifteens:");
-    EXPECT_EQ(CardGoalWord(9), "");
-    EXPECT_EQ(CardGoalName(13), "thirteen");
-    EXPECT_STREQ(PlayPileKey(0), "EMPTY");
-    EXPECT_STREQ(PlayPileKey(10), "BACK");
-    EXPECT_STREQ(PlayPileKey(11), "HALF");
-    EXPECT_STREQ(PlayPileKey(21), "FULL");
-}
-
-TEST(SavedGames, RoundTripWithTheBlocksOfTheRoundsPlayed) {
+// The window writes and opens saved games whole; these are the field rules.
+TEST(SavedGames, CodesAreStoredTrimmedARoundNeverDealtHasNoBlockAndACommaEndsTheName) {
     SavedGame game;
-    game.cardGoal = 12;
-    game.timeLimit = 60;
-    game.score = 81234;
-    game.custom = true;
-    game.userName = "Ann";
+    game.userName = "Smith, John";
     game.round1 = DeckForCardGoal(12);
-    game.round2 = DeckForCardGoal(12);
-    std::reverse(game.round2.begin() + 1, game.round2.end());
-    game.round3.assign(57, std::string());
+    game.round3 = game.round2 = std::vector<std::string>(57);
+    game.round3[1] = "11D";
     const std::string text = SavedGameText(game);
-    EXPECT_EQ(text.substr(0, 40), "[Card Goal]\r\n12\r\n[Time Limit]\r\n60\r\n[Scor");
-    EXPECT_NE(text.find("\r\n2S\r\n"), std::string::npos);  // codes stored trimmed
-    EXPECT_EQ(text.find("[Round 3 Deck]"), std::string::npos);
+    EXPECT_NE(text.find("[Round 1 Deck]\r\n1S\r\n"), std::string::npos);
+    EXPECT_NE(text.find("\r\n2S\r\n"), std::string::npos);
+    EXPECT_EQ(text.find("[Round 2 Deck]"), std::string::npos);
+    EXPECT_NE(text.find("[Round 3 Deck]\r\n11D\r\n\r\n"), std::string::npos);
     SavedGame back;
     ASSERT_TRUE(ParseSavedGame(text, back));
-    EXPECT_EQ(back.cardGoal, 12);
-    EXPECT_EQ(back.timeLimit, 60);
-    EXPECT_EQ(back.score, 81234);
-    EXPECT_TRUE(back.custom);
-    EXPECT_EQ(back.userName, "Ann");
-    ASSERT_EQ(back.round1.size(), 57u);
-    EXPECT_EQ(back.round1[17], "2S");
-    EXPECT_EQ(back.round2[1], "11D");
-    EXPECT_EQ(back.round3[1], "");  // never dealt: shuffled anew on replay
-}
-
-TEST(SavedGames, AnEmptyNameIsSavedAsAnAnonymousUserAndACommaEndsTheName) {
-    SavedGame game;
-    game.round1 = DeckForCardGoal(11);
-    EXPECT_NE(SavedGameText(game).find("[UserName]\r\nan anonymous user\r\n"), std::string::npos);
-    game.userName = "Smith, John";
-    SavedGame back;
-    ASSERT_TRUE(ParseSavedGame(SavedGameText(game), back));
     EXPECT_EQ(back.userName, "Smith");
-    EXPECT_EQ(back.round1[1], "1S");
+    EXPECT_EQ(back.round2[1], "");
+    EXPECT_EQ(back.round3[1], "11D");
+    // A field in double quotes may hold a comma; what follows the quotes is skipped.
+    ASSERT_TRUE(ParseSavedGame("[Card Goal]\r\n11\r\n[UserName]\r\n  \"Smith, John\" x\r\n[Score]\r\n7\r\n", back));
+    EXPECT_EQ(back.userName, "Smith, John");
+    EXPECT_EQ(back.score, 7);
 }
 
 TEST(SavedGames, DamagedFilesAreRefused) {
@@ -140,26 +77,35 @@ TEST(SavedGames, DamagedFilesAreRefused) {
     EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\n", back));
     EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\nten\r\n", back));
     EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\n11\r\n[Round 1 Deck]\r\n1S\r\n2S\r\n", back));  // short deck
-    EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\n99999\r\n", back));  // out of range
+    EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\n99999\r\n", back));                              // out of range
     EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\n11\r\n[Score]\r\n9999999999\r\n", back));
-    EXPECT_TRUE(ParseSavedGame("[Card Goal]\r\n11\r\n", back));
+    EXPECT_TRUE(ParseSavedGame("[Card Goal]\r\n11\r\n[Custom]\r\nno\r\n", back));
     EXPECT_FALSE(back.timeLimitRead);
+    EXPECT_TRUE(back.custom);  // anything but "False"
 }
 
 TEST(SavedGames, VerdictsByScore) {
-    EXPECT_EQ(SavedGameVerdict(19999), "amassed a pitiful");
-    EXPECT_EQ(SavedGameVerdict(-500), "amassed a pitiful");
-    EXPECT_EQ(SavedGameVerdict(20000), "accumulated a sorry");
-    EXPECT_EQ(SavedGameVerdict(20001), "accumulated a sorry");
-    EXPECT_EQ(SavedGameVerdict(40000), "accumulated a sorry");
-    EXPECT_EQ(SavedGameVerdict(40001), "earned a pretty weak");
-    EXPECT_EQ(SavedGameVerdict(80001), "earned a respectable");
-    EXPECT_EQ(SavedGameVerdict(150000), "earned an incredible");
-    EXPECT_EQ(SavedGameVerdict(160001), "earned an unbelievable");
-    SavedGame g;
-    g.userName = "Bo";
-    g.score = 20000;
-    EXPECT_EQ(SavedGameMessage(g),
-              "This game was saved by Bo. He or she accumulated a sorry score of 20,000 in this game. "
-              "Customized scoring was not in effect when this game was played. ");
+    const std::map<int, std::string> verdicts = {
+        {-500, "amassed a pitiful"},       {19999, "amassed a pitiful"},       {20000, "accumulated a sorry"},
+        {40000, "accumulated a sorry"},    {40001, "earned a pretty weak"},    {60000, "earned a pretty weak"},
+        {60001, "earned a mediocre"},      {80000, "earned a mediocre"},       {80001, "earned a respectable"},
+        {100000, "earned a respectable"},  {100001, "earned a decent"},        {120000, "earned a decent"},
+        {120001, "earned a darned good"},  {140000, "earned a darned good"},   {140001, "earned an incredible"},
+        {160000, "earned an incredible"},  {160001, "earned an unbelievable"},
+    };
+    for (const auto& [score, verdict] : verdicts) EXPECT_EQ(SavedGameVerdict(score), verdict) << score;
+}
+
+// The up pile has room for 31 cards; turning 42 unused grows it, and the last
+// one turned is the first up card again.
+TEST(SumfallBoard, TheUpPileGrowsPastItsRoomAndAnEmptyPileRefusesAClick) {
+    Board board;
+    DealBoard(board, DeckForCardGoal(15));
+    while (board.stockIndex >= 0) TurnUpCard(board);
+    EXPECT_EQ(board.upIndex, 43);
+    EXPECT_EQ(board.up[43], board.up[1]);
+    EXPECT_EQ(board.pileKey, "EMPTY");
+    while (board.upIndex > 0) TakeUpCard(board);
+    EXPECT_TRUE(board.upEmpty);
+    EXPECT_EQ(ClickUp(board, 15).outcome, Outcome::Refused);
 }
