@@ -24,7 +24,6 @@ constexpr int kCardHeight = 1455;
 constexpr int32_t kDefaultTimeBonus = 100;  // the suite's TimeBonus while Duopick is open
 
 struct CardPlace {
-    int row;  // 1 the top row .. 5 the bottom row; 0 the up card
     int left, top;
 };
 // PlayCard(0..23) at the window's design size.

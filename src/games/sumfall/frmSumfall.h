@@ -52,8 +52,6 @@ public:
 
     // Reads a saved game and starts its replay; false when it can't be read.
     bool LoadSavedGame(const std::string& path);
-    // Ten blinks of the dial's last quarter in dark red.
-    void Flash();
 
 private:
     // Events.

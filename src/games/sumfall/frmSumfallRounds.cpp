@@ -388,19 +388,6 @@ void frmSumfall::EndGame() {
     if (PlayMusic) StopMusic();
 }
 
-void frmSumfall::Flash() {
-    for (int i = 0; i < 10; ++i) {
-        DialLastColor = 192;
-        DrawTimeDial(DialAngle(DialSeconds), *this);
-        DoEvents();
-        runtime().refresh();
-        DrawTimeDial(DialAngle(DialSeconds), *this);
-        DrawTimeDial(DialAngle(DialSeconds), *this);
-        DoEvents();
-        runtime().refresh();
-    }
-}
-
 // ---- Saved games ----------------------------------------------------------------------
 
 bool frmSumfall::LoadSavedGame(const std::string& path) {

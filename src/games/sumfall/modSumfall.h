@@ -29,7 +29,6 @@ struct ScoringValues {
 constexpr int32_t kDefaultTimeBonus = 100;  // the suite's TimeBonus while Sumfall is open
 
 struct FieldPlace {
-    int tier;    // 1 the bottom row .. 6 the single top card
     int points;  // paid when the card goes in a combination
     int dx, dy;  // twips from place 0
 };
