@@ -160,26 +160,26 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : GameForm(runtime, kGame, kDesignW
     // The big labels take the width of their text, so that they can be centred.
     for (const char* name : {"lblMessage", "lblScoring", "lblFlush"})
         on(name, Ev::Change, [this, name](EventArgs&) { FitLabel(name); });
-    for (const TimeEntry& entry : kTimeEntries)
-        on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
-    for (int design = 1; design <= 4; ++design)
-        on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
+    BindTimeAndDeckMenus(kTimeEntries, kDeckMenus, [this](const char* menu) { mnuTime_Click(menu); },
+                         [this](int design) { mnuDeck_Click(design); });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmTreyshiftCustom", true); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
 
-    expose("TripValue", Expose(Scoring.TripValue));
-    expose("RunValue", Expose(Scoring.RunValue));
-    expose("FlushValue", Expose(Scoring.FlushValue));
-    expose("DeckValue", Expose(Scoring.DeckValue));
-    expose("PenaltyValue", Expose(Scoring.PenaltyValue));
-    expose("BonusScore", Expose(Scoring.BonusScore));
-    expose("DeckPosition", Expose(Board.deckPosition));
-    expose("Selected", Expose(Board.selected));
-    expose("SourceZone", Expose(Board.sourceZone));
-    expose("SourceIndex", Expose(Board.sourceIndex));
-    expose("TripCount", Expose(TripCount));
-    expose("RunCount", Expose(RunCount));
-    expose("CurrentRound", Expose(CurrentRound));
+    ExposeVariables({
+        {"TripValue", Expose(Scoring.TripValue)},
+        {"RunValue", Expose(Scoring.RunValue)},
+        {"FlushValue", Expose(Scoring.FlushValue)},
+        {"DeckValue", Expose(Scoring.DeckValue)},
+        {"PenaltyValue", Expose(Scoring.PenaltyValue)},
+        {"BonusScore", Expose(Scoring.BonusScore)},
+        {"DeckPosition", Expose(Board.deckPosition)},
+        {"Selected", Expose(Board.selected)},
+        {"SourceZone", Expose(Board.sourceZone)},
+        {"SourceIndex", Expose(Board.sourceIndex)},
+        {"TripCount", Expose(TripCount)},
+        {"RunCount", Expose(RunCount)},
+        {"CurrentRound", Expose(CurrentRound)},
+    });
     const auto array = [](const auto& slots) {
         return [&slots](int index, Value& out) {
             if (index < 0 || index >= static_cast<int>(slots.size())) return false;
