@@ -8,6 +8,7 @@
 #include "suite/dial.h"
 #include "suite/roundsteps.h"
 #include "suite/sound.h"
+#include "suite/windowsteps.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -91,16 +92,14 @@ void frmSpirehold::InitRound() {
 // A paused game cannot be studied: the cards go; those still on the table
 // (they keep a picture) come back on resuming.
 void frmSpirehold::cmdPause_Click() {
-    if (c("cmdPause").caption() == kPauseCaption) {
-        SetPausedControls(*this);
-        ShowCards(false, false);
-        if (PlayMusic) StopMusic();
-        return;
-    }
-    SetResumedControls(*this);
-    ResumeBoard(Board);
-    ShowBoard();
-    if (PlayMusic && GameInProgress) StartMusic();
+    PauseOrResume(*this, [this](bool show) {
+        if (!show) {
+            ShowCards(false, false);
+            return;
+        }
+        ResumeBoard(Board);
+        ShowBoard();
+    });
 }
 
 // ---- The round clock -------------------------------------------------------------------

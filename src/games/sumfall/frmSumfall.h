@@ -89,8 +89,6 @@ private:
     void CloseScoring();
     void EndOnError(const RuntimeError& error);
     void EndGame();
-    void PauseGame();
-    void ResumeGame();
     void CheckTotal();
 
     // What the window shows.
