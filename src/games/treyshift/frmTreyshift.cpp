@@ -5,6 +5,7 @@
 // frmTreyshiftRounds.cpp.
 #include "games/treyshift/frmTreyshift.h"
 
+#include <array>
 #include <memory>
 #include <vector>
 
@@ -37,7 +38,23 @@ const int kRowTop[3] = {2160, 2520, 2880};
 const int kTempLeft[3] = {2880, 4200, 5520};
 const int kUpLeft[3] = {3720, 4080, 4440};
 
-// The boxes of this game stand in the right column under the score box.
+// A counter boxed as the window's others are: the caption above, the
+// rectangle, the value inside it, and the bevel lines at its right and bottom
+// edges. The names are the caption's, the rectangle's, the value's and the
+// two lines'; the caption stands at `top`.
+std::array<ControlSpec, 5> ValueBox(const std::array<const char*, 5>& n, int left, int top, int width,
+                                    const char* caption) {
+    const int box = top + 270;
+    return {{
+        {K::Label, n[0], -1, left, top, width, 255, caption},
+        {K::Shape, n[1], -1, left, box, width, 375},
+        {K::Label, n[2], -1, left + 45, box + 60, width - 90, 255, "0"},
+        {K::Line, n[3], -1, left + width + 15, box + 15, 0, 375},
+        {K::Line, n[4], -1, left + 15, box + 390, width, 0},
+    }};
+}
+
+// The trips and runs boxes stand in the right column under the score box.
 const std::array<ControlSpec, 5> kTripsBox =
     ValueBox({"lblTrips", "TripsRectangle", "lblScoreTrips", "TripsBevelSide", "TripsBevelBottom"}, 8220, 4620, 1095,
              "Trips:");
