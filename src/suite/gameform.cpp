@@ -40,6 +40,16 @@ void GameForm::Wave(const char* name) const {
     if (PlaySounds && *name) PlayWaveFile(name);
 }
 
+void GameForm::AnnounceRound(const char* caption, const char* wave) {
+    Control& message = c("lblMessage");
+    message.setForeColor(Colour::Red);
+    message.setVisible(true);
+    message.setCaption(caption);
+    Wave(wave);
+    BlinkLabel(message, 11, 250);
+    message.setVisible(false);
+}
+
 bool GameForm::ResizeToPlace() { return ch::ResizeToPlace(*this, designWidth_, designHeight_); }
 
 void GameForm::ReadSettings() { ReadSettingsINI(game_.settingsFile, SettingsSections()); }

@@ -47,6 +47,9 @@ protected:
     void ClearTable();
     // A wave file, when PlaySounds is on; a sound with no name plays nothing.
     void Wave(const char* name) const;
+    // A round change told in lblMessage: the caption in red, `wave` played
+    // (when one is named), eleven blinks a quarter second apart, then hidden.
+    void AnnounceRound(const char* caption, const char* wave = "");
     // Form_Resize's guard at the design size (ResizeToPlace).
     bool ResizeToPlace();
     // The sections of the game's settings file, in the file's order.

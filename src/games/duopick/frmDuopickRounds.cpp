@@ -155,20 +155,12 @@ void frmDuopick::TakeScore() {
     switch (NextStep(CurrentRound, CurrentScore, Scoring.BonusScore)) {
         case AfterRound::RoundTwo:
             for (const char* name : buttons) c(name).setEnabled(true);
-            message.setForeColor(Colour::Red);
-            message.setVisible(true);
-            message.setCaption("Prepare for Round Two!");
-            BlinkLabel(message, 11, 250);
-            message.setVisible(false);
+            AnnounceRound("Prepare for Round Two!");
             InitRound();
             break;
         case AfterRound::BonusRound:
             for (const char* name : buttons) c(name).setEnabled(true);
-            message.setCaption("Prepare for Bonus Round!");
-            message.setVisible(true);
-            Wave("\\Applause.wav");
-            BlinkLabel(message, 11, 250);
-            message.setVisible(false);
+            AnnounceRound("Prepare for Bonus Round!", "\\Applause.wav");
             InitRound();
             break;
         case AfterRound::GameOver:

@@ -151,17 +151,10 @@ void frmSpirehold::TakeScore() {
     HighRunScore();
 
     if (CurrentRound == 2) {
-        message.setForeColor(Colour::Red);
-        message.setVisible(true);
-        message.setCaption("Prepare for Round Two!");
-        BlinkLabel(message, 11, 250);
-        message.setVisible(false);
+        AnnounceRound("Prepare for Round Two!");
         InitRound();
     } else if (CurrentRound == 3 && CurrentScore >= Scoring.BonusScore) {
-        message.setCaption("Prepare for Bonus Round!");
-        Wave("\\Applause.wav");
-        BlinkLabel(message, 11, 250);
-        message.setVisible(false);
+        AnnounceRound("Prepare for Bonus Round!", "\\Applause.wav");
         InitRound();
     } else {
         GameOver();
