@@ -8,7 +8,6 @@
 
 #include "suite/common.h"
 #include "suite/files.h"
-#include "tests/support/frmTestGame.h"
 #include "tests/support/testforms.h"
 #include "window/runtime.h"
 
@@ -32,7 +31,8 @@ public:
         add(kLayout);
         c("txtContent").setMultiLine(true);
         on("cmdOpen", Ev::Click, [this](EventArgs&) { cmdOpen_Click(); });
-        on("cmdWrite", Ev::Click, [this](EventArgs&) { WriteFileAtomic(AppFile(c("txtFile").text()), c("txtContent").text()); });
+        on("cmdWrite", Ev::Click,
+           [this](EventArgs&) { WriteFileAtomic(AppFile(c("txtFile").text()), c("txtContent").text()); });
         on("cmdRead", Ev::Click, [this](EventArgs&) { cmdRead_Click(); });
         on("cmdDelete", Ev::Click, [this](EventArgs&) { std::remove(AppFile(c("txtFile").text()).c_str()); });
     }
