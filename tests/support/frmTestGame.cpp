@@ -14,6 +14,7 @@
 #include "suite/gameform.h"
 #include "suite/highscores.h"
 #include "suite/labels.h"
+#include "suite/roundsteps.h"
 #include "suite/sound.h"
 #include "suite/windowsteps.h"
 #include "tests/support/testforms.h"
@@ -189,17 +190,11 @@ private:
     }
 
     void Timer1_Timer() {
-        AdvanceRoundClock(*this);
-        ShowTimeWarnings(*this);
-        if (ElapsedSeconds != TimeLimit) return;
-        c("Timer1").setEnabled(false);
+        if (!RoundClockRunsOut(*this)) return;
         ShowCards(false);
         c("cmdTakeScore").setEnabled(false);
         c("cmdPause").setEnabled(false);
-        ShowTimesUp(*this);
-        BlinkLabel(c("lblMessage"), 10, 250);
-        cmdTakeScore_Click();
-        if (c("lblMessage").caption() != kGameOver) c("lblMessage").setVisible(false);
+        TimesUpThenScore(*this, [this] { cmdTakeScore_Click(); });
     }
 
     void cmdTakeScore_Click() {
