@@ -15,6 +15,19 @@ GameForm::GameForm(Runtime& runtime, const GameInfo& game, int designWidth, int 
 
 void GameForm::BindShared(const SharedHandlerPoints& points) { BindSharedHandlers(*this, Splash, points); }
 
+void GameForm::BindTimeAndDeckMenus(std::span<const TimeEntry> times, const char* const (&deckMenus)[4],
+                                    const std::function<void(const char*)>& onTime,
+                                    const std::function<void(int)>& onDeck) {
+    for (const TimeEntry& entry : times)
+        on(entry.menu, Ev::Click, [onTime, menu = entry.menu](EventArgs&) { onTime(menu); });
+    for (int design = 1; design <= 4; ++design)
+        on(deckMenus[design - 1], Ev::Click, [onDeck, design](EventArgs&) { onDeck(design); });
+}
+
+void GameForm::ExposeVariables(std::initializer_list<std::pair<const char*, VariableGetter>> variables) {
+    for (const auto& [name, getter] : variables) expose(name, getter);
+}
+
 void GameForm::BeginLoad(int16_t deckDesign) { BeginFormLoad(*this, game_, deckDesign); }
 
 void GameForm::CompleteLoad() { CompleteFormLoad(*this, game_.tableName, game_.defaultScore); }
@@ -25,6 +38,16 @@ void GameForm::ClearTable() { ClearHighScores(*this, game_.tableName, game_.defa
 
 void GameForm::Wave(const char* name) const {
     if (PlaySounds && *name) PlayWaveFile(name);
+}
+
+void GameForm::AnnounceRound(const char* caption, const char* wave) {
+    Control& message = c("lblMessage");
+    message.setForeColor(Colour::Red);
+    message.setVisible(true);
+    message.setCaption(caption);
+    Wave(wave);
+    BlinkLabel(message, 11, 250);
+    message.setVisible(false);
 }
 
 bool GameForm::ResizeToPlace() { return ch::ResizeToPlace(*this, designWidth_, designHeight_); }

@@ -7,6 +7,9 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
+#include <span>
+#include <utility>
 
 #include "suite/gameinfo.h"
 #include "suite/gamewindow.h"
@@ -28,6 +31,12 @@ protected:
     // The handlers every game window binds alike (BindSharedHandlers), with
     // this window's splash ring.
     void BindShared(const SharedHandlerPoints& points = {});
+    // The Time Limit entries call `onTime` with the entry's menu name; the back
+    // design entries, listed by DeckDesign number, call `onDeck` with it.
+    void BindTimeAndDeckMenus(std::span<const TimeEntry> times, const char* const (&deckMenus)[4],
+                              const std::function<void(const char*)>& onTime, const std::function<void(int)>& onDeck);
+    // The window's variables that the driver may read, by name.
+    void ExposeVariables(std::initializer_list<std::pair<const char*, VariableGetter>> variables);
     // Form_Load's opening (BeginFormLoad) at the game's default time limit.
     void BeginLoad(int16_t deckDesign = 1);
     // Form_Load's close (CompleteFormLoad) with the game's table.
@@ -38,6 +47,9 @@ protected:
     void ClearTable();
     // A wave file, when PlaySounds is on; a sound with no name plays nothing.
     void Wave(const char* name) const;
+    // A round change told in lblMessage: the caption in red, `wave` played
+    // (when one is named), eleven blinks a quarter second apart, then hidden.
+    void AnnounceRound(const char* caption, const char* wave = "");
     // Form_Resize's guard at the design size (ResizeToPlace).
     bool ResizeToPlace();
     // The sections of the game's settings file, in the file's order.

@@ -7,13 +7,6 @@
 
 namespace ch {
 
-void TogglePause(Form& window, const std::function<void()>& pause, const std::function<void()>& resume) {
-    if (window.c("cmdPause").caption() == kPauseCaption)
-        pause();
-    else
-        resume();
-}
-
 bool RoundClockRunsOut(Form& window) {
     AdvanceRoundClock(window);
     ShowTimeWarnings(window);

@@ -23,9 +23,6 @@ void EndingOnError(Step&& step, EndOnError&& endOnError) {
     }
 }
 
-// The pause button pauses while it offers to, and resumes otherwise.
-void TogglePause(Form& window, const std::function<void()>& pause, const std::function<void()>& resume);
-
 // One second of the round clock (Timer1): the dial moves on and the time
 // warnings are shown. True when that second ends the round's time, and the
 // clock is then stopped.

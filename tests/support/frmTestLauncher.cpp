@@ -8,7 +8,6 @@
 
 #include "suite/common.h"
 #include "suite/files.h"
-#include "tests/support/frmTestGame.h"
 #include "tests/support/testforms.h"
 #include "window/runtime.h"
 
@@ -31,26 +30,22 @@ public:
     explicit frmTestLauncher(Runtime& runtime) : Form(runtime, "frmTestLauncher") {
         add(kLayout);
         c("txtContent").setMultiLine(true);
-        on("cmdOpen", Ev::Click, [this](EventArgs&) { cmdOpen_Click(); });
-        on("cmdWrite", Ev::Click, [this](EventArgs&) { WriteFileAtomic(AppFile(c("txtFile").text()), c("txtContent").text()); });
-        on("cmdRead", Ev::Click, [this](EventArgs&) { cmdRead_Click(); });
+        // As a game button of the selector does.
+        on("cmdOpen", Ev::Click, [this](EventArgs&) {
+            Form& selector = this->runtime().load("frmSelect");
+            selector.setMousePointer(Pointer::Hourglass);
+            AppTitle = kTestGameTitle;
+            this->runtime().show("frmTestGame");
+            selector.setMousePointer(Pointer::Default);
+            this->runtime().hide(selector);
+        });
+        on("cmdWrite", Ev::Click,
+           [this](EventArgs&) { WriteFileAtomic(AppFile(c("txtFile").text()), c("txtContent").text()); });
+        on("cmdRead", Ev::Click, [this](EventArgs&) {
+            std::string text;
+            c("txtContent").setText(ReadWholeFile(AppFile(c("txtFile").text()), text) ? text : "<missing>");
+        });
         on("cmdDelete", Ev::Click, [this](EventArgs&) { std::remove(AppFile(c("txtFile").text()).c_str()); });
-    }
-
-private:
-    // As a game button of the selector does.
-    void cmdOpen_Click() {
-        Form& selector = runtime().load("frmSelect");
-        selector.setMousePointer(Pointer::Hourglass);
-        AppTitle = kTestGameTitle;
-        runtime().show("frmTestGame");
-        selector.setMousePointer(Pointer::Default);
-        runtime().hide(selector);
-    }
-
-    void cmdRead_Click() {
-        std::string text;
-        c("txtContent").setText(ReadWholeFile(AppFile(c("txtFile").text()), text) ? text : "<missing>");
     }
 };
 }  // namespace

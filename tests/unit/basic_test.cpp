@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The conversions every rule and settings file goes through.
 #include <gtest/gtest.h>
 
 #include "window/basic.h"
@@ -6,19 +7,14 @@
 using namespace ch;
 
 TEST(Val, ReadsTheNumberAtTheStartAndNeverAnExponent) {
-    EXPECT_EQ(Val("2D"), 2);
-    EXPECT_EQ(Val("1E5"), 1);
-    EXPECT_EQ(Val("12abc"), 12);
-    EXPECT_EQ(Val("abc"), 0);
-    EXPECT_EQ(Val(""), 0);
-    EXPECT_EQ(Val("   -7 points"), -7);
-    EXPECT_EQ(Val("+3"), 3);
-    EXPECT_DOUBLE_EQ(Val("2.5x"), 2.5);
-    EXPECT_EQ(Val(" 13D"), 13);
-    EXPECT_EQ(Val("-"), 0);
+    const std::pair<const char*, double> cases[] = {
+        {"2D", 2}, {"1E5", 1},  {"12abc", 12}, {"abc", 0}, {"", 0},
+        {"   -7 points", -7}, {"+3", 3}, {"2.5x", 2.5}, {" 13D", 13}, {"-", 0},
+    };
+    for (const auto& [text, value] : cases) EXPECT_DOUBLE_EQ(Val(text), value) << text;
 }
 
-TEST(Conversions, RoundHalvesToTheEvenNeighbour) {
+TEST(Conversions, RoundHalvesToTheEvenNeighbourAndOverflowOutOfRange) {
     EXPECT_EQ(CInt(2.5), 2);
     EXPECT_EQ(CInt(3.5), 4);
     EXPECT_EQ(CInt(-2.5), -2);
@@ -27,9 +23,6 @@ TEST(Conversions, RoundHalvesToTheEvenNeighbour) {
     EXPECT_EQ(CInt(2.4999), 2);
     EXPECT_EQ(CLng(2500000.5), 2500000);
     EXPECT_EQ(CLng(-0.5), 0);
-}
-
-TEST(Conversions, OutOfRangeRaisesOverflow) {
     EXPECT_EQ(CInt(32767.4), 32767);
     EXPECT_EQ(CInt(-32768.5), -32768);
     try {
@@ -43,17 +36,13 @@ TEST(Conversions, OutOfRangeRaisesOverflow) {
     EXPECT_NO_THROW(CLng(-2147483648.0));
 }
 
-TEST(Formats, GroupDigitsInThrees) {
+TEST(Texts, ScoresGroupDigitsInThreesAndStrKeepsTheBlankOfItsSign) {
     EXPECT_EQ(FormatScore(0), "0");
     EXPECT_EQ(FormatScore(999), "999");
     EXPECT_EQ(FormatScore(1000), "1,000");
-    EXPECT_EQ(FormatScore(80000), "80,000");
     EXPECT_EQ(FormatScore(1234567), "1,234,567");
     EXPECT_EQ(FormatScore(-1500), "-1,500");
     EXPECT_EQ(FormatScore(-2147483648LL), "-2,147,483,648");
-}
-
-TEST(Texts, NumberToTextCarriesTheBlankOfANonNegativeNumber) {
     EXPECT_EQ(Str(7), " 7");
     EXPECT_EQ(Str(0), " 0");
     EXPECT_EQ(Str(-7), "-7");
@@ -64,14 +53,11 @@ TEST(Texts, NumberToTextCarriesTheBlankOfANonNegativeNumber) {
     EXPECT_EQ(Trim("   "), "");
 }
 
-TEST(Booleans, StoredAsMinusOneAndShownAsWords) {
+// A settings file's True is the one spelling; anything else reads as False.
+TEST(Booleans, StoredAsMinusOneAndReadOnlyFromTrue) {
     EXPECT_EQ(BoolValue(true), -1);
     EXPECT_EQ(BoolValue(false), 0);
     EXPECT_STREQ(BoolText(true), "True");
     EXPECT_TRUE(ParseBoolText("True"));
-    EXPECT_FALSE(ParseBoolText("TRUE"));
-    EXPECT_FALSE(ParseBoolText("true"));
-    EXPECT_FALSE(ParseBoolText(" True"));
-    EXPECT_FALSE(ParseBoolText("False"));
-    EXPECT_FALSE(ParseBoolText("yes"));
+    for (const char* text : {"TRUE", "true", " True", "False", "yes"}) EXPECT_FALSE(ParseBoolText(text)) << text;
 }

@@ -3,10 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <string>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include "tools/script/script.h"
 
@@ -18,48 +19,39 @@ struct ScriptRun {
     int status = -1;
 };
 
-ScriptRun RunScript(const std::string& script) {
-    char path[] = "/tmp/cardhaven-driver-test-XXXXXX";
-    int fd = mkstemp(path);
-    EXPECT_GE(fd, 0);
-    ::close(fd);
-    std::ofstream(path) << script;
+// Runs `script` from a folder of its own, with `opening` as openings/start.script beside it.
+ScriptRun RunScript(const std::string& script, const std::string& opening = "") {
+    char folder[] = "/tmp/cardhaven-driver-test-XXXXXX";
+    EXPECT_NE(mkdtemp(folder), nullptr);
+    const std::filesystem::path dir(folder);
+    std::filesystem::create_directory(dir / "openings");
+    std::ofstream(dir / "openings" / "start.script") << opening;
+    std::ofstream(dir / "test.script") << script;
     ScriptRun run;
-    std::string command = std::string(CARDHAVEN_SCRIPT_BIN) + " " + path + " 2>&1";
+    const std::string command = std::string(CARDHAVEN_SCRIPT_BIN) + " " + (dir / "test.script").string() + " 2>&1";
     FILE* pipe = popen(command.c_str(), "r");
     char buf[512];
     while (pipe && fgets(buf, sizeof buf, pipe)) run.out += buf;
-    int status = pipe ? pclose(pipe) : -1;
+    const int status = pipe ? pclose(pipe) : -1;
     run.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    std::remove(path);
+    std::filesystem::remove_all(dir);
     return run;
 }
 }  // namespace
 
-TEST(Tokens, QuotesHoldBlanksAndKnowFourEscapes) {
+TEST(Parsing, QuotesKnowFourEscapesAndReferencesSplitIntoNamesAndIndices) {
     std::vector<std::string> t;
-    ASSERT_TRUE(ScriptRunner::Tokenize(R"(expect  x.Caption "Time: 89" "a\"b\\c\rd\ne" "\Chord.wav")", t));
-    ASSERT_EQ(t.size(), 5u);
-    EXPECT_EQ(t[2], "Time: 89");
-    EXPECT_EQ(t[3], "a\"b\\c\rd\ne");
-    EXPECT_EQ(t[4], "\\Chord.wav");
-    EXPECT_TRUE(ScriptRunner::Tokenize(R"(expect x "")", t));
-    EXPECT_EQ(t.back(), "");
+    ASSERT_TRUE(ScriptRunner::Tokenize(R"(expect  x.Caption "Time: 89" "a\"b\\c\rd\ne" "\Chord.wav" "")", t));
+    EXPECT_EQ(t, (std::vector<std::string>{"expect", "x.Caption", "Time: 89", "a\"b\\c\rd\ne", "\\Chord.wav", ""}));
     EXPECT_FALSE(ScriptRunner::Tokenize(R"(print "open)", t));
-}
 
-TEST(References, SplitIntoNamesAndIndices) {
     std::vector<ScriptRunner::Segment> s;
     ASSERT_TRUE(ScriptRunner::ParseReference("frmSumfall.FieldCardPicture(7).Picture", s));
     ASSERT_EQ(s.size(), 3u);
     EXPECT_EQ(s[1].name, "FieldCardPicture");
     EXPECT_EQ(s[1].index, 7);
     EXPECT_FALSE(s[2].index.has_value());
-    ASSERT_TRUE(ScriptRunner::ParseReference("Deck(1)", s));
-    EXPECT_EQ(s[0].index, 1);
-    EXPECT_FALSE(ScriptRunner::ParseReference("frm..x", s));
-    EXPECT_FALSE(ScriptRunner::ParseReference("Deck(x)", s));
-    EXPECT_FALSE(ScriptRunner::ParseReference("a.b(1", s));
+    for (const char* bad : {"frm..x", "Deck(x)", "a.b(1"}) EXPECT_FALSE(ScriptRunner::ParseReference(bad, s)) << bad;
 }
 
 TEST(Driver, PrintsValuesFormsAndFailuresInTheirFormat) {
@@ -68,34 +60,43 @@ TEST(Driver, PrintsValuesFormsAndFailuresInTheirFormat) {
         "\n"
         "forms\n"
         "print frmSelect.Caption\n"
-        "print frmSelect.Visible\n"
         "print frmSelect.Timer1.Interval\n"
         "print frmSelect.imgSplashImage(0).Picture\n"
         "print ImageList2.Key(67)\n"
         "print DeckDesign\n"
         "print TakingScore\n"
         "expect frmSelect.cmdClose.Caption \"&Close\"\n"
-        "expect frmSelect.cmdClose.Caption Close\n");
+        "expect frmSelect.cmdClose.Caption Close\n"
+        "advance 500\n"
+        "print frmSelect.imgSplashImage(0).Picture\n");
     EXPECT_EQ(run.out,
               "frmSelect True\n"
               "Quillmark's Card Haven\n"
-              "True\n"
               "250\n"
               "1S\n"
               "Empty\n"
               "1\n"
               "False\n"
-              "FAIL 12: frmSelect.cmdClose.Caption = &Close (expected Close)\n");
+              "FAIL 11: frmSelect.cmdClose.Caption = &Close (expected Close)\n"
+              "BACK\n");
     EXPECT_EQ(run.status, 1);
 }
 
-TEST(Driver, PicturesPrintTheirKeyNowOrTheirNumber) {
+// A range or a list of controls reads each in turn, "-" for an empty value;
+// a failure inside an opening names the opening's file and line.
+TEST(Driver, GroupsReadInOrderAndAnOpeningsFailureNamesItsFile) {
     ScriptRun run = RunScript(
-        "advance 500\n"
-        "print frmSelect.imgSplashImage(0).Picture\n"
-        "print frmSelect.imgSplashImage(0).BorderStyle\n");
-    EXPECT_EQ(run.out, "BACK\n0\n");
-    EXPECT_EQ(run.status, 0);
+        "include openings/start.script\n"
+        "expect frmSelect.imgSplashImage(0..2).Picture \"1S 13H 12C\"\n"
+        "expect frmSelect.{Timer1,cmdClose}.Caption \"- &Close\"\n"
+        "expect frmSelect.{cmdClose,Timer1}.Caption \"- &Close\"\n",
+        "print frmSelect.imgSplashImage(1..2).Visible\n"
+        "expect frmSelect.cmdClose.Caption Close\n");
+    EXPECT_EQ(run.out,
+              "True True\n"
+              "FAIL openings/start.script:2: frmSelect.cmdClose.Caption = &Close (expected Close)\n"
+              "FAIL 4: frmSelect.{cmdClose,Timer1}.Caption = &Close - (expected - &Close)\n");
+    EXPECT_EQ(run.status, 1);
 }
 
 TEST(Driver, MessageBoxesAndSoundsAreReadOnce) {
@@ -109,33 +110,35 @@ TEST(Driver, MessageBoxesAndSoundsAreReadOnce) {
     EXPECT_EQ(run.status, 1);
 }
 
-TEST(Driver, UnknownNamesAreErrorsThatStopTheRun) {
-    ScriptRun run = RunScript("print frmSelect.cmdNothing.Caption\nprint frmSelect.Caption\n");
-    EXPECT_EQ(run.out, "ERROR 1: unknown control or variable cmdNothing of frmSelect\n");
-    EXPECT_EQ(run.status, 2);
-    run = RunScript("frobnicate\n");
-    EXPECT_EQ(run.out, "ERROR 1: unknown command frobnicate\n");
-    EXPECT_EQ(run.status, 2);
-    run = RunScript("print frmSelect.cmdClose.Colour\n");
-    EXPECT_EQ(run.out, "ERROR 1: unknown property Colour\n");
-}
-
-TEST(Driver, QuitStopsAtOnce) {
-    ScriptRun run = RunScript("print CurrentScore\nquit\nprint nothing\n");
-    EXPECT_EQ(run.out, "0\n");
-    EXPECT_EQ(run.status, 0);
-}
-
-TEST(Driver, ClosingTheSelectorEndsTheRun) {
-    ScriptRun run = RunScript("click frmSelect.cmdClose\nprint nothing\n");
-    EXPECT_EQ(run.out, "");
-    EXPECT_EQ(run.status, 0);
-}
-
-TEST(Driver, RandomValuesOutOfBoundsFail) {
+TEST(Driver, UnknownNamesAndValuesOutOfBoundsStopTheRun) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"print frmSelect.cmdNothing.Caption\nprint frmSelect.Caption\n",
+         "ERROR 1: unknown control or variable cmdNothing of frmSelect\n"},
+        {"frobnicate\n", "ERROR 1: unknown command frobnicate\n"},
+        {"print frmSelect.cmdClose.Colour\n", "ERROR 1: unknown property Colour\n"},
+        {"print frmSelect.imgSplashImage(2..1).Picture\n",
+         "ERROR 1: a range is (FIRST..LAST): frmSelect.imgSplashImage(2..1).Picture\n"},
+    };
+    for (const auto& [script, out] : cases) {
+        ScriptRun run = RunScript(script);
+        EXPECT_EQ(run.out, out);
+        EXPECT_EQ(run.status, 2) << script;
+    }
     ScriptRun run = RunScript("random 99\nadvance 4500\n");
     EXPECT_EQ(run.out, "FAIL 2: random 99 is outside 14..65\n");
     EXPECT_EQ(run.status, 1);
+}
+
+TEST(Driver, QuitOrClosingTheSelectorEndsTheRunAtOnce) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"print CurrentScore\nquit\nprint nothing\n", "0\n"},
+        {"click frmSelect.cmdClose\nprint nothing\n", ""},
+    };
+    for (const auto& [script, out] : cases) {
+        ScriptRun run = RunScript(script);
+        EXPECT_EQ(run.out, out);
+        EXPECT_EQ(run.status, 0) << script;
+    }
 }
 
 TEST(Driver, AnswersByPlacePressTheFirstOrSecondButtonOfAnyBox) {

@@ -52,17 +52,3 @@ TEST_F(LabelWindow, AFittedLabelFollowsItsFont) {
     EXPECT_GT(label.width(), small * 2);
 }
 
-TEST(ValueBox, TheValueSitsInsideItsRectangleUnderItsCaption) {
-    const auto box = ValueBox({"lblA", "ARect", "lblValueA", "ASide", "ABottom"}, 8220, 4620, 1095, "A:");
-    const ControlSpec& caption = box[0];
-    const ControlSpec& rect = box[1];
-    const ControlSpec& value = box[2];
-    EXPECT_STREQ(caption.caption, "A:");
-    EXPECT_GE(rect.top, caption.top + caption.height);
-    EXPECT_GT(value.left, rect.left);
-    EXPECT_LT(value.left + value.width, rect.left + rect.width);
-    EXPECT_GT(value.top, rect.top);
-    EXPECT_LT(value.top + value.height, rect.top + rect.height);
-    EXPECT_EQ(box[3].left, rect.left + rect.width + 15);
-    EXPECT_EQ(box[4].top, rect.top + rect.height + 15);
-}

@@ -70,6 +70,12 @@ export async function click(page, ref) {
   await page.click(sel(ref));
 }
 
+// The text of the message box, once one is up.
+export async function msgboxText(page) {
+  await page.waitForSelector('.msgbox', {visible: true});
+  return page.$eval('.msgbox .text', (e) => e.textContent);
+}
+
 export async function menu(page, form, top, entry) {
   await page.click(`${sel(form)} .menubar [data-name="${top}"] > span`);
   await page.click(`${sel(form)} .menubar [data-name="${entry}"]`);

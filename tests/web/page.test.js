@@ -9,8 +9,8 @@ import fs from 'node:fs';
 import os from 'node:os';
 import path from 'node:path';
 import {after, before, describe, test} from 'node:test';
-import {acceptDialogs, alt, chooseFile, click, downloads, launch, menu, nextSuite, sel, site, startServer, storedFiles,
-  tap, text, waitText} from './harness.js';
+import {acceptDialogs, alt, chooseFile, click, downloads, launch, menu, msgboxText, nextSuite, sel, site, startServer,
+  storedFiles, tap, text, waitText} from './harness.js';
 
 const repo = path.resolve(path.dirname(new URL(import.meta.url).pathname), '..', '..');
 let server, browser, page, dialogs, files;
@@ -47,6 +47,20 @@ const DEALS = [
   ['cmdTreyshift', 'frmTreyshift', '10C 2H 9S 4H 7S 7H 7D 4C 5D 6H 12S 13S 1S 2D 8H 9D 3C 11C 5S 1H 6S 13H 3D 8C 1C 1D 2S 2C 3S 3H 4S 4D 5H 5C 6C 6D 7C 8S 8D 9H 9C 10S 10H 10D 11S 11H 11D 12H 12C 12D 13C 13D',
     'lblCardCount', /^Cards remaining: \d+$/],
 ];
+
+// Sumfall's Save dialog, given a name and OK.
+async function saveAs(name) {
+  await page.click(sel('frmSave.txtGameName'), {clickCount: 3});
+  await page.keyboard.type(name);
+  await click(page, 'frmSave.cmdOK');
+}
+
+// The game saved as kept.sfl is offered by the Open dialog, which is then cancelled.
+async function keptGameListed() {
+  await menu(page, 'frmSumfall', 'mnuFile', 'mnuOpen');
+  await waitText(page, 'frmOpen.File1', /^kept\.sfl$/);
+  await click(page, 'frmOpen.cmdCancel');
+}
 
 // Closing a game window asks first; Yes goes back to the selector.
 async function closeGame(form) {
@@ -150,10 +164,8 @@ describe('the suite in the page', () => {
     for (let i = 0; i < entries.indexOf('mnuClear'); i++) await page.keyboard.press('ArrowDown');
     assert.deepEqual(await active(), ['mnuClear']);
     await page.keyboard.press('Enter');
-    await page.waitForSelector('.msgbox', {visible: true});
+    assert.equal(await msgboxText(page), 'This will clear all High Scores. Are You Sure?');
     assert.deepEqual(await open(), []);
-    assert.equal(await page.$eval('.msgbox .text', (e) => e.textContent),
-      'This will clear all High Scores. Are You Sure?');
     assert.equal(await page.$eval('.msgbox .buttons', (e) => e.textContent), 'YesNo');
     // Yes has the focus; the arrow moves it to No, and Return presses No.
     await page.keyboard.press('ArrowRight');
@@ -170,20 +182,14 @@ describe('the suite in the page', () => {
 
   test('Sumfall saves a game only in the home folder, which storage keeps', async () => {
     const items = (ref) => page.$$eval(`${sel(ref)} [data-i]`, (els) => els.map((e) => e.textContent));
-    const save = async (name) => {
-      await page.click(sel('frmSave.txtGameName'), {clickCount: 3});
-      await page.keyboard.type(name);
-      await click(page, 'frmSave.cmdOK');
-    };
     await menu(page, 'frmSumfall', 'mnuFile', 'mnuSave');
     await page.waitForSelector(sel('frmSave'), {visible: true});
     // The home folder is the top: no way up out of it.
     assert.deepEqual(await items('frmSave.Dir1'), []);
-    await save('../lost.sfl');
-    await page.waitForSelector('.msgbox', {visible: true});
-    assert.match(await page.$eval('.msgbox .text', (e) => e.textContent), /^Unable to save the file\./);
+    await saveAs('../lost.sfl');
+    assert.match(await msgboxText(page), /^Unable to save the file\./);
     await page.click('.msgbox .buttons button');
-    await save('kept.sfl');
+    await saveAs('kept.sfl');
     await page.waitForSelector(sel('frmSave'), {hidden: true});
   });
 
@@ -192,9 +198,7 @@ describe('the suite in the page', () => {
     await click(page, 'frmSelect.cmdSumfall');
     await waitText(page, 'frmSumfall.lblHighScore', new RegExp(`^High Score: ${best}$`), 20000);
     // The game saved before the reload is still there to open.
-    await menu(page, 'frmSumfall', 'mnuFile', 'mnuOpen');
-    await waitText(page, 'frmOpen.File1', /^kept\.sfl$/);
-    await click(page, 'frmOpen.cmdCancel');
+    await keptGameListed();
   });
 
   test('storage that refuses a write gets the save failure message, and nothing is lost', async () => {
@@ -205,20 +209,15 @@ describe('the suite in the page', () => {
     });
     await menu(page, 'frmSumfall', 'mnuFile', 'mnuSave');
     await page.waitForSelector(sel('frmSave'), {visible: true});
-    await page.click(sel('frmSave.txtGameName'), {clickCount: 3});
-    await page.keyboard.type('refused.sfl');
-    await click(page, 'frmSave.cmdOK');
-    await page.waitForSelector('.msgbox', {visible: true});
-    assert.match(await page.$eval('.msgbox .text', (e) => e.textContent), /^Unable to save the file\./);
+    await saveAs('refused.sfl');
+    assert.match(await msgboxText(page), /^Unable to save the file\./);
     await page.click('.msgbox .buttons button');
     await click(page, 'frmSave.cmdCancel');
     await page.waitForSelector(sel('frmSave'), {hidden: true});
     await page.evaluate(() => { IDBObjectStore.prototype.put = window.put; });
     // The suite's files are as they were, in storage and in the open dialog.
     assert.deepEqual(await storedFiles(page), stored);
-    await menu(page, 'frmSumfall', 'mnuFile', 'mnuOpen');
-    await waitText(page, 'frmOpen.File1', /^kept\.sfl$/);
-    await click(page, 'frmOpen.cmdCancel');
+    await keptGameListed();
     await page.waitForSelector(sel('frmOpen'), {hidden: true});
   });
 
@@ -234,8 +233,7 @@ describe('the suite in the page', () => {
     assert.match(await dialogs.wait(/starts again/), /Close the windows open now\?/);
     await started();
     await click(page, 'frmSelect.cmdSumfall');
-    await page.waitForSelector('.msgbox', {visible: true, timeout: 20000});
-    assert.match(await page.$eval('.msgbox .text', (e) => e.textContent), /^This game was saved by Cleo\./);
+    assert.match(await msgboxText(page), /^This game was saved by Cleo\./);
     await page.keyboard.press('Enter');
     await page.waitForSelector('.msgbox', {hidden: true});
     assert.ok('cleo.sfl' in await storedFiles(page));
@@ -287,8 +285,7 @@ describe('the suite in the page', () => {
   test("the web site button gives the selector's own message when the browser refuses a new tab", async () => {
     await page.goto(`${server.url}?test&nopopup`);
     await click(page, 'frmSelect.cmdLaunchBrowser');
-    await page.waitForSelector('.msgbox', {visible: true});
-    assert.match(await page.$eval('.msgbox .text', (e) => e.textContent), /^Unable to open web page '.+'\.$/);
+    assert.match(await msgboxText(page), /^Unable to open web page '.+'\.$/);
     assert.ok(await page.$('.msgbox .icon.exclamation'));
     await page.click('.msgbox .buttons button');
   });

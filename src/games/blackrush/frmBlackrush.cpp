@@ -233,27 +233,27 @@ frmBlackrush::frmBlackrush(Runtime& runtime) : GameForm(runtime, kGame, kDesignW
     on("Timer5", Ev::Timer, [this](EventArgs&) { Timer5_Timer(); });
     on("lblTime", Ev::Change, [this](EventArgs&) { lblTime_Change(); });
     on("lblRoundScore", Ev::Change, [this](EventArgs&) { CentreIn(c("lblRoundScore"), c("frameScoreInfo")); });
-    for (const TimeEntry& entry : kTimeEntries)
-        on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
-    for (int design = 1; design <= 4; ++design)
-        on(kReversedDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
+    BindTimeAndDeckMenus(kTimeEntries, kReversedDeckMenus, [this](const char* menu) { mnuTime_Click(menu); },
+                         [this](int design) { mnuDeck_Click(design); });
     on("mnuUserOptions", Ev::Click,
        [this](EventArgs&) { this->runtime().show("frmBlackrushCustomScoring", true); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
 
-    expose("DeckPosition", Expose(DeckPosition));
-    expose("PassesLeft", Expose(PassesLeft));
-    expose("CurrentRound", Expose(CurrentRound));
-    expose("TwentyOnes", Expose(TwentyOnes));
-    expose("QuitRequested", Expose(QuitRequested));
-    expose("CardsToPass", Expose(Scoring.CardsToPass));
-    expose("TwentyOneBonusValue", Expose(Scoring.TwentyOneBonusValue));
-    expose("CardsUsedBonusValue", Expose(Scoring.CardsUsedBonusValue));
-    expose("FiveCardGimmeBonus", Expose(Scoring.FiveCardGimmeBonus));
-    expose("DeckCompletionBonus", Expose(Scoring.DeckCompletionBonus));
-    expose("BonusScore", Expose(Scoring.BonusScore));
-    expose("CounterSpeed", Expose(Scoring.CounterSpeed));
-    expose("WaitPeriod", Expose(Scoring.WaitPeriod));
+    ExposeVariables({
+        {"DeckPosition", Expose(DeckPosition)},
+        {"PassesLeft", Expose(PassesLeft)},
+        {"CurrentRound", Expose(CurrentRound)},
+        {"TwentyOnes", Expose(TwentyOnes)},
+        {"QuitRequested", Expose(QuitRequested)},
+        {"CardsToPass", Expose(Scoring.CardsToPass)},
+        {"TwentyOneBonusValue", Expose(Scoring.TwentyOneBonusValue)},
+        {"CardsUsedBonusValue", Expose(Scoring.CardsUsedBonusValue)},
+        {"FiveCardGimmeBonus", Expose(Scoring.FiveCardGimmeBonus)},
+        {"DeckCompletionBonus", Expose(Scoring.DeckCompletionBonus)},
+        {"BonusScore", Expose(Scoring.BonusScore)},
+        {"CounterSpeed", Expose(Scoring.CounterSpeed)},
+        {"WaitPeriod", Expose(Scoring.WaitPeriod)},
+    });
     expose("ColumnCards", [this](int index, Value& out) {
         if (index < 0 || index >= kColumns) return false;
         out = static_cast<long long>(ColumnCards[static_cast<size_t>(index)]);

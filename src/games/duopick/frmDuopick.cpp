@@ -125,29 +125,29 @@ frmDuopick::frmDuopick(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth
     BindShared();
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentScore", "ScoreRectangle"); });
     on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
-    for (const TimeEntry& entry : kTimeEntries)
-        on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
-    for (int design = 1; design <= 4; ++design)
-        on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
+    BindTimeAndDeckMenus(kTimeEntries, kDeckMenus, [this](const char* menu) { mnuTime_Click(menu); },
+                         [this](int design) { mnuDeck_Click(design); });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmDuopickCustomScoring", true); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
 
-    expose("PairsBonus", Expose(Scoring.PairsBonus));
-    expose("RunsBonus", Expose(Scoring.RunsBonus));
-    expose("BonusScore", Expose(Scoring.BonusScore));
-    expose("CompletionBonus", Expose(Scoring.CompletionBonus));
-    expose("DeckCards", Expose(Board.deckCards));
-    expose("UpCards", Expose(Board.upCards));
-    expose("WastePos", Expose(Board.wastePos));
-    expose("StackIndex", Expose(Board.stackIndex));
-    expose("CardsRemaining", Expose(CardsRemaining));
-    expose("CardsSelected", Expose(Board.cardsSelected));
-    expose("FirstCardValue", Expose(Board.firstCardValue));
-    expose("FirstCardIndex", Expose(Board.firstCardIndex));
-    expose("PairsCount", Expose(PairsCount));
-    expose("RunsCount", Expose(RunsCount));
-    expose("RoundCompleted", Expose(RoundCompleted));
-    expose("CurrentRound", Expose(CurrentRound));
+    ExposeVariables({
+        {"PairsBonus", Expose(Scoring.PairsBonus)},
+        {"RunsBonus", Expose(Scoring.RunsBonus)},
+        {"BonusScore", Expose(Scoring.BonusScore)},
+        {"CompletionBonus", Expose(Scoring.CompletionBonus)},
+        {"DeckCards", Expose(Board.deckCards)},
+        {"UpCards", Expose(Board.upCards)},
+        {"WastePos", Expose(Board.wastePos)},
+        {"StackIndex", Expose(Board.stackIndex)},
+        {"CardsRemaining", Expose(CardsRemaining)},
+        {"CardsSelected", Expose(Board.cardsSelected)},
+        {"FirstCardValue", Expose(Board.firstCardValue)},
+        {"FirstCardIndex", Expose(Board.firstCardIndex)},
+        {"PairsCount", Expose(PairsCount)},
+        {"RunsCount", Expose(RunsCount)},
+        {"RoundCompleted", Expose(RoundCompleted)},
+        {"CurrentRound", Expose(CurrentRound)},
+    });
 }
 
 // ---- Loading and closing ----------------------------------------------------------

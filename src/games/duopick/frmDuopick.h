@@ -66,8 +66,6 @@ private:
     void Play();
     void InitRound();
     void cmdPause_Click();
-    void PauseGame();
-    void ResumeGame();
     void cmdTakeScore_Click();
     void TakeScore();
     void EndOnError(const RuntimeError& error);

@@ -9,6 +9,7 @@
 #include "suite/dial.h"
 #include "suite/roundsteps.h"
 #include "suite/sound.h"
+#include "suite/windowsteps.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -87,26 +88,18 @@ void frmDuopick::InitRound() {
 
 // ---- Pause ------------------------------------------------------------------------------
 
-void frmDuopick::cmdPause_Click() {
-    TogglePause(*this, [this] { PauseGame(); }, [this] { ResumeGame(); });
-}
-
 // A paused game can't be studied: the cards and the selection leave the
 // table. Resuming shows the board as it is then: every card that has a
 // picture (a gap has none), the up card, the stack and the selection, also
 // when the game was paused while a round change had the cards hidden.
-void frmDuopick::PauseGame() {
-    SetPausedControls(*this);
-    PauseBoard(Board);
-    ShowBoard();
-    if (PlayMusic) StopMusic();
-}
-
-void frmDuopick::ResumeGame() {
-    SetResumedControls(*this);
-    ResumeBoard(Board);
-    ShowBoard();
-    if (PlayMusic && GameInProgress) StartMusic();
+void frmDuopick::cmdPause_Click() {
+    PauseOrResume(*this, [this](bool show) {
+        if (show)
+            ResumeBoard(Board);
+        else
+            PauseBoard(Board);
+        ShowBoard();
+    });
 }
 
 // ---- The clock --------------------------------------------------------------------------
@@ -162,20 +155,12 @@ void frmDuopick::TakeScore() {
     switch (NextStep(CurrentRound, CurrentScore, Scoring.BonusScore)) {
         case AfterRound::RoundTwo:
             for (const char* name : buttons) c(name).setEnabled(true);
-            message.setForeColor(Colour::Red);
-            message.setVisible(true);
-            message.setCaption("Prepare for Round Two!");
-            BlinkLabel(message, 11, 250);
-            message.setVisible(false);
+            AnnounceRound("Prepare for Round Two!");
             InitRound();
             break;
         case AfterRound::BonusRound:
             for (const char* name : buttons) c(name).setEnabled(true);
-            message.setCaption("Prepare for Bonus Round!");
-            message.setVisible(true);
-            Wave("\\Applause.wav");
-            BlinkLabel(message, 11, 250);
-            message.setVisible(false);
+            AnnounceRound("Prepare for Bonus Round!", "\\Applause.wav");
             InitRound();
             break;
         case AfterRound::GameOver:

@@ -201,29 +201,30 @@ frmFivestack::frmFivestack(Runtime& runtime) : GameForm(runtime, kGame, kDesignW
     on("lblTimeBonus", Ev::Change, [this](EventArgs&) { CenterTimeBonus(); });
     on("ColumnSoft", Ev::Change, [this](EventArgs& e) { ColumnSoft_Change(e.index); });
     on("ScoringLabelInfo", Ev::Change, [this](EventArgs&) { CenterScoringInfo(); });
-    for (const TimeEntry& entry : kTimeEntries)
-        on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
-    for (int design = 1; design <= 4; ++design)
-        on(kReversedDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
+    BindTimeAndDeckMenus(kTimeEntries, kReversedDeckMenus, [this](const char* menu) { mnuTime_Click(menu); },
+                         [this](int design) { mnuDeck_Click(design); });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { mnuCustom_Click(); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
 
-    expose("BonusScore", Expose(Scoring.BonusScore));
-    expose("TimeBonusMax", Expose(Scoring.TimeBonusMax));
-    expose("TimeBonusMin", Expose(Scoring.TimeBonusMin));
-    expose("TimeBonusDecay", [this](int index, Value& out) {
-        if (index >= 0) return false;
-        out = static_cast<double>(TimeBonusDecay);
-        return true;
+    ExposeVariables({
+        {"BonusScore", Expose(Scoring.BonusScore)},
+        {"TimeBonusMax", Expose(Scoring.TimeBonusMax)},
+        {"TimeBonusMin", Expose(Scoring.TimeBonusMin)},
+        {"TimeBonusDecay",
+         [this](int index, Value& out) {
+             if (index >= 0) return false;
+             out = static_cast<double>(TimeBonusDecay);
+             return true;
+         }},
+        {"WaitPeriod", Expose(Scoring.WaitPeriod)},
+        {"CardsToPass", Expose(Scoring.CardsToPass)},
+        {"PassesLeft", Expose(PassesLeft)},
+        {"DeckPosition", Expose(DeckPosition)},
+        {"CardTotal", Expose(CardTotal)},
+        {"CardTotalValue", Expose(CardTotalValue)},
+        {"CurrentRound", Expose(CurrentRound)},
+        {"QuitRequested", Expose(QuitRequested)},
     });
-    expose("WaitPeriod", Expose(Scoring.WaitPeriod));
-    expose("CardsToPass", Expose(Scoring.CardsToPass));
-    expose("PassesLeft", Expose(PassesLeft));
-    expose("DeckPosition", Expose(DeckPosition));
-    expose("CardTotal", Expose(CardTotal));
-    expose("CardTotalValue", Expose(CardTotalValue));
-    expose("CurrentRound", Expose(CurrentRound));
-    expose("QuitRequested", Expose(QuitRequested));
     const auto column = [this](int16_t fivestack::Column::*field) {
         return [this, field](int index, Value& out) {
             if (index < 0 || index >= kColumns) return false;

@@ -156,10 +156,8 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : GameForm(runtime, kGame, kDesignWid
     on("lblCurrentScore", Ev::Change, [this](EventArgs&) { lblCurrentScore_Change(); });
     on("lblRound", Ev::Change, [this](EventArgs&) { lblRound_Change(); });
     on("lblTimeBonus", Ev::Change, [this](EventArgs&) { CenterTimeBonus(); });
-    for (const TimeEntry& entry : kTimeEntries)
-        on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
-    for (int design = 1; design <= 4; ++design)
-        on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
+    BindTimeAndDeckMenus(kTimeEntries, kDeckMenus, [this](const char* menu) { mnuTime_Click(menu); },
+                         [this](int design) { mnuDeck_Click(design); });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmHandgridCustom", true); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { ClearTable(); });
 
@@ -173,17 +171,19 @@ frmHandgrid::frmHandgrid(Runtime& runtime) : GameForm(runtime, kGame, kDesignWid
         out = static_cast<long long>(Scoring.HandScores[static_cast<size_t>(index)]);
         return true;
     });
-    expose("RoundDeck", Expose(RoundDeck));
-    expose("HoleCards", Expose(HoleCards));
-    expose("DeckPosition", Expose(DeckPosition));
-    expose("HoleCount", Expose(HoleCount));
-    expose("CardsRemaining", Expose(CardsRemaining));
-    expose("OverWritesAllowed", Expose(Scoring.OverWritesAllowed));
-    expose("OverWritesUsed", Expose(OverWritesUsed));
-    expose("RoundPoints", Expose(RoundPoints));
-    expose("HandSoundPlayed", Expose(HandSoundPlayed));
-    expose("CurrentRound", Expose(CurrentRound));
-    expose("BonusScore", Expose(Scoring.BonusScore));
+    ExposeVariables({
+        {"RoundDeck", Expose(RoundDeck)},
+        {"HoleCards", Expose(HoleCards)},
+        {"DeckPosition", Expose(DeckPosition)},
+        {"HoleCount", Expose(HoleCount)},
+        {"CardsRemaining", Expose(CardsRemaining)},
+        {"OverWritesAllowed", Expose(Scoring.OverWritesAllowed)},
+        {"OverWritesUsed", Expose(OverWritesUsed)},
+        {"RoundPoints", Expose(RoundPoints)},
+        {"HandSoundPlayed", Expose(HandSoundPlayed)},
+        {"CurrentRound", Expose(CurrentRound)},
+        {"BonusScore", Expose(Scoring.BonusScore)},
+    });
 }
 
 // ---- Loading and closing ---------------------------------------------------------

@@ -159,29 +159,29 @@ frmSpirehold::frmSpirehold(Runtime& runtime) : GameForm(runtime, kGame, kDesignW
     on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
     on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
     BindShared();
-    for (const TimeEntry& entry : kTimeEntries)
-        on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
-    for (int design = 1; design <= 4; ++design)
-        on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
+    BindTimeAndDeckMenus(kTimeEntries, kDeckMenus, [this](const char* menu) { mnuTime_Click(menu); },
+                         [this](int design) { mnuDeck_Click(design); });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmSpireholdCustom", true); });
     on("mnuClearHighRun", Ev::Click, [this](EventArgs&) { mnuClearHighRun_Click(); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
 
-    expose("CardValue", Expose(Scoring.CardValue));
-    expose("BonusScore", Expose(Scoring.BonusScore));
-    expose("HighRunBonus", Expose(Scoring.HighRunBonus));
-    expose("TowerBonus", Expose(Scoring.TowerBonus));
-    expose("StackIndex", Expose(Board.stackIndex));
-    expose("UpCardCode", Expose(Board.upCardCode));
-    expose("UpCardValue", Expose(Board.upCardValue));
-    expose("CurrentRun", Expose(CurrentRun));
-    expose("HighestRun", Expose(HighestRun));
-    expose("RunValue", Expose(RunValue));
-    expose("CardsRemaining", Expose(CardsRemaining));
-    expose("TowersCompleted", Expose(TowersCompleted));
-    expose("NewHighRun", Expose(NewHighRun));
-    expose("CurrentRound", Expose(CurrentRound));
-    expose("DeckCards", Expose(Board.deckCards));
+    ExposeVariables({
+        {"CardValue", Expose(Scoring.CardValue)},
+        {"BonusScore", Expose(Scoring.BonusScore)},
+        {"HighRunBonus", Expose(Scoring.HighRunBonus)},
+        {"TowerBonus", Expose(Scoring.TowerBonus)},
+        {"StackIndex", Expose(Board.stackIndex)},
+        {"UpCardCode", Expose(Board.upCardCode)},
+        {"UpCardValue", Expose(Board.upCardValue)},
+        {"CurrentRun", Expose(CurrentRun)},
+        {"HighestRun", Expose(HighestRun)},
+        {"RunValue", Expose(RunValue)},
+        {"CardsRemaining", Expose(CardsRemaining)},
+        {"TowersCompleted", Expose(TowersCompleted)},
+        {"NewHighRun", Expose(NewHighRun)},
+        {"CurrentRound", Expose(CurrentRound)},
+        {"DeckCards", Expose(Board.deckCards)},
+    });
 }
 
 // ---- Loading and closing ---------------------------------------------------------

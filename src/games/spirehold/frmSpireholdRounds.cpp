@@ -8,6 +8,7 @@
 #include "suite/dial.h"
 #include "suite/roundsteps.h"
 #include "suite/sound.h"
+#include "suite/windowsteps.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -91,16 +92,14 @@ void frmSpirehold::InitRound() {
 // A paused game cannot be studied: the cards go; those still on the table
 // (they keep a picture) come back on resuming.
 void frmSpirehold::cmdPause_Click() {
-    if (c("cmdPause").caption() == kPauseCaption) {
-        SetPausedControls(*this);
-        ShowCards(false, false);
-        if (PlayMusic) StopMusic();
-        return;
-    }
-    SetResumedControls(*this);
-    ResumeBoard(Board);
-    ShowBoard();
-    if (PlayMusic && GameInProgress) StartMusic();
+    PauseOrResume(*this, [this](bool show) {
+        if (!show) {
+            ShowCards(false, false);
+            return;
+        }
+        ResumeBoard(Board);
+        ShowBoard();
+    });
 }
 
 // ---- The round clock -------------------------------------------------------------------
@@ -152,17 +151,10 @@ void frmSpirehold::TakeScore() {
     HighRunScore();
 
     if (CurrentRound == 2) {
-        message.setForeColor(Colour::Red);
-        message.setVisible(true);
-        message.setCaption("Prepare for Round Two!");
-        BlinkLabel(message, 11, 250);
-        message.setVisible(false);
+        AnnounceRound("Prepare for Round Two!");
         InitRound();
     } else if (CurrentRound == 3 && CurrentScore >= Scoring.BonusScore) {
-        message.setCaption("Prepare for Bonus Round!");
-        Wave("\\Applause.wav");
-        BlinkLabel(message, 11, 250);
-        message.setVisible(false);
+        AnnounceRound("Prepare for Bonus Round!", "\\Applause.wav");
         InitRound();
     } else {
         GameOver();

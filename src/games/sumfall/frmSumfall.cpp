@@ -217,14 +217,12 @@ frmSumfall::frmSumfall(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth
     on("lblCurrentRound", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentRound", "RoundRectangle"); });
     on("lblCurrentElevens", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentElevens", "ElevensRectangle"); });
     on("lblCurrentTotal", Ev::Change, [this](EventArgs&) { CentreLabelIn(*this, "lblCurrentTotal", "CardTotalRectangle"); });
-    for (const TimeEntry& entry : kTimeEntries)
-        on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
+    BindTimeAndDeckMenus(kTimeEntries, kDeckMenus, [this](const char* menu) { mnuTime_Click(menu); },
+                         [this](int design) { mnuDeck_Click(design); });
     for (int goal = 10; goal <= 15; ++goal)
         on(kGoalMenus[goal - 10], Ev::Click, [this, goal](EventArgs&) { mnuGoal_Click(goal); });
     for (int i = 0; i < 6; ++i)
         on(kSelectionColours[static_cast<size_t>(i)].menu, Ev::Click, [this, i](EventArgs&) { mnuColor_Click(i); });
-    for (int design = 1; design <= 4; ++design)
-        on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
     on("mnuDrawTimer", Ev::Click, [this](EventArgs&) { mnuDrawTimer_Click(); });
     on("mnuScoring", Ev::Click, [this](EventArgs&) { this->runtime().show("frmSumfallCustomScoring", true); });
     on("mnuViewHiScore", Ev::Click, [this](EventArgs&) {
@@ -234,23 +232,25 @@ frmSumfall::frmSumfall(Runtime& runtime) : GameForm(runtime, kGame, kDesignWidth
     on("mnuSave", Ev::Click, [this](EventArgs&) { this->runtime().show("frmSave", true); });
     on("mnuOpen", Ev::Click, [this](EventArgs&) { this->runtime().show("frmOpen", true); });
 
-    expose("BonusRoundScore", Expose(Scoring.BonusRoundScore));
-    expose("CompletionBonus", Expose(Scoring.CompletionBonus));
-    expose("CombinationBonus", Expose(Scoring.CombinationBonus));
-    expose("Round1Deck", Expose(Round1Deck));
-    expose("Round2Deck", Expose(Round2Deck));
-    expose("Round3Deck", Expose(Round3Deck));
-    expose("UpCards", Expose(Board.up));
-    expose("UpCardIndex", Expose(Board.upIndex));
-    expose("StockCards", Expose(Board.stock));
-    expose("StockIndex", Expose(Board.stockIndex));
-    expose("CurrentTotal", Expose(Board.total));
-    expose("CombinationCount", Expose(CombinationCount));
-    expose("CurrentRound", Expose(CurrentRound));
-    expose("SelectionColorIndex", Expose(SelectionColorIndex));
-    expose("ReplayPending", Expose(ReplayPending));
-    expose("CountDownScore", Expose(CountDownScore));
-    expose("CardGoal", Expose(CardGoal));
+    ExposeVariables({
+        {"BonusRoundScore", Expose(Scoring.BonusRoundScore)},
+        {"CompletionBonus", Expose(Scoring.CompletionBonus)},
+        {"CombinationBonus", Expose(Scoring.CombinationBonus)},
+        {"Round1Deck", Expose(Round1Deck)},
+        {"Round2Deck", Expose(Round2Deck)},
+        {"Round3Deck", Expose(Round3Deck)},
+        {"UpCards", Expose(Board.up)},
+        {"UpCardIndex", Expose(Board.upIndex)},
+        {"StockCards", Expose(Board.stock)},
+        {"StockIndex", Expose(Board.stockIndex)},
+        {"CurrentTotal", Expose(Board.total)},
+        {"CombinationCount", Expose(CombinationCount)},
+        {"CurrentRound", Expose(CurrentRound)},
+        {"SelectionColorIndex", Expose(SelectionColorIndex)},
+        {"ReplayPending", Expose(ReplayPending)},
+        {"CountDownScore", Expose(CountDownScore)},
+        {"CardGoal", Expose(CardGoal)},
+    });
     expose("FieldCards", [this](int index, Value& out) {
         if (index < 0 || index >= kFieldPlaces) return false;
         out = Board.field[static_cast<size_t>(index)];

@@ -87,8 +87,6 @@ private:
     void CloseScoring();
     void EndOnError(const RuntimeError& error);
     void EndGame();
-    void PauseGame();
-    void ResumeGame();
     void CheckTotal();
 
     // What the window shows.

@@ -11,6 +11,7 @@
 #include "suite/highscores.h"
 #include "suite/roundsteps.h"
 #include "suite/sound.h"
+#include "suite/windowsteps.h"
 #include "window/basic.h"
 #include "window/runtime.h"
 
@@ -84,27 +85,18 @@ void frmSumfall::Play() {
     setMousePointer(Pointer::Default);
 }
 
-void frmSumfall::cmdPause_Click() {
-    TogglePause(*this, [this] { PauseGame(); }, [this] { ResumeGame(); });
-}
-
 // A paused game cannot be studied: the selection goes and the cards are
 // turned down.
-void frmSumfall::PauseGame() {
-    SetPausedControls(*this);
-    ClearSelections(Board);
-    Board.total = 0;
-    ShowTotal();
-    Board.faceDown = true;
-    ShowBoard();
-    if (PlayMusic) StopMusic();
-}
-
-void frmSumfall::ResumeGame() {
-    SetResumedControls(*this);
-    Board.faceDown = false;
-    ShowBoard();
-    if (PlayMusic && GameInProgress) StartMusic();
+void frmSumfall::cmdPause_Click() {
+    PauseOrResume(*this, [this](bool show) {
+        if (!show) {
+            ClearSelections(Board);
+            Board.total = 0;
+            ShowTotal();
+        }
+        Board.faceDown = !show;
+        ShowBoard();
+    });
 }
 
 void frmSumfall::cmdTakeScore_Click(bool fromMenu) {

@@ -5,6 +5,7 @@
 // frmTreyshiftRounds.cpp.
 #include "games/treyshift/frmTreyshift.h"
 
+#include <array>
 #include <memory>
 #include <vector>
 
@@ -37,7 +38,23 @@ const int kRowTop[3] = {2160, 2520, 2880};
 const int kTempLeft[3] = {2880, 4200, 5520};
 const int kUpLeft[3] = {3720, 4080, 4440};
 
-// The boxes of this game stand in the right column under the score box.
+// A counter boxed as the window's others are: the caption above, the
+// rectangle, the value inside it, and the bevel lines at its right and bottom
+// edges. The names are the caption's, the rectangle's, the value's and the
+// two lines'; the caption stands at `top`.
+std::array<ControlSpec, 5> ValueBox(const std::array<const char*, 5>& n, int left, int top, int width,
+                                    const char* caption) {
+    const int box = top + 270;
+    return {{
+        {K::Label, n[0], -1, left, top, width, 255, caption},
+        {K::Shape, n[1], -1, left, box, width, 375},
+        {K::Label, n[2], -1, left + 45, box + 60, width - 90, 255, "0"},
+        {K::Line, n[3], -1, left + width + 15, box + 15, 0, 375},
+        {K::Line, n[4], -1, left + 15, box + 390, width, 0},
+    }};
+}
+
+// The trips and runs boxes stand in the right column under the score box.
 const std::array<ControlSpec, 5> kTripsBox =
     ValueBox({"lblTrips", "TripsRectangle", "lblScoreTrips", "TripsBevelSide", "TripsBevelBottom"}, 8220, 4620, 1095,
              "Trips:");
@@ -160,26 +177,26 @@ frmTreyshift::frmTreyshift(Runtime& runtime) : GameForm(runtime, kGame, kDesignW
     // The big labels take the width of their text, so that they can be centred.
     for (const char* name : {"lblMessage", "lblScoring", "lblFlush"})
         on(name, Ev::Change, [this, name](EventArgs&) { FitLabel(name); });
-    for (const TimeEntry& entry : kTimeEntries)
-        on(entry.menu, Ev::Click, [this, menu = entry.menu](EventArgs&) { mnuTime_Click(menu); });
-    for (int design = 1; design <= 4; ++design)
-        on(kDeckMenus[design - 1], Ev::Click, [this, design](EventArgs&) { mnuDeck_Click(design); });
+    BindTimeAndDeckMenus(kTimeEntries, kDeckMenus, [this](const char* menu) { mnuTime_Click(menu); },
+                         [this](int design) { mnuDeck_Click(design); });
     on("mnuCustom", Ev::Click, [this](EventArgs&) { this->runtime().show("frmTreyshiftCustom", true); });
     on("mnuClear", Ev::Click, [this](EventArgs&) { mnuClear_Click(); });
 
-    expose("TripValue", Expose(Scoring.TripValue));
-    expose("RunValue", Expose(Scoring.RunValue));
-    expose("FlushValue", Expose(Scoring.FlushValue));
-    expose("DeckValue", Expose(Scoring.DeckValue));
-    expose("PenaltyValue", Expose(Scoring.PenaltyValue));
-    expose("BonusScore", Expose(Scoring.BonusScore));
-    expose("DeckPosition", Expose(Board.deckPosition));
-    expose("Selected", Expose(Board.selected));
-    expose("SourceZone", Expose(Board.sourceZone));
-    expose("SourceIndex", Expose(Board.sourceIndex));
-    expose("TripCount", Expose(TripCount));
-    expose("RunCount", Expose(RunCount));
-    expose("CurrentRound", Expose(CurrentRound));
+    ExposeVariables({
+        {"TripValue", Expose(Scoring.TripValue)},
+        {"RunValue", Expose(Scoring.RunValue)},
+        {"FlushValue", Expose(Scoring.FlushValue)},
+        {"DeckValue", Expose(Scoring.DeckValue)},
+        {"PenaltyValue", Expose(Scoring.PenaltyValue)},
+        {"BonusScore", Expose(Scoring.BonusScore)},
+        {"DeckPosition", Expose(Board.deckPosition)},
+        {"Selected", Expose(Board.selected)},
+        {"SourceZone", Expose(Board.sourceZone)},
+        {"SourceIndex", Expose(Board.sourceIndex)},
+        {"TripCount", Expose(TripCount)},
+        {"RunCount", Expose(RunCount)},
+        {"CurrentRound", Expose(CurrentRound)},
+    });
     const auto array = [](const auto& slots) {
         return [&slots](int index, Value& out) {
             if (index < 0 || index >= static_cast<int>(slots.size())) return false;

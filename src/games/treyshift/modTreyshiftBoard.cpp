@@ -239,9 +239,10 @@ Step ClickField(Board& b, int index, const std::vector<std::string>& deck) {
         return step;
     }
     if (index <= 7) {
-        // A card that went under a card whose landing slot a cancelled
-        // selection left hidden is itself shown; otherwise the slot under
-        // the card placed opens.
+        // MoveSelected moves `index` to the slot the card lands in. A card
+        // that went under a card whose landing slot a cancelled selection
+        // left hidden (slot 8 and on) is itself shown; otherwise the slot
+        // under the card placed opens.
         const Step step = MoveSelected(b, index, ZoneField, deck);
         At(b.field, index >= 8 ? index : index + 4).visible = true;
         return step;
