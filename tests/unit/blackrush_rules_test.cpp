@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Blackrush's rules at the edges a scenario passes only once: the pile's
-// thresholds, the counter's flash and expiry, the bonus round test, custom
-// scoring and the wait in seconds.
+// Blackrush's rules at edges a scenario passes only once: the pile's
+// thresholds, the bonus round test, custom scoring, the wait in seconds.
 #include <gtest/gtest.h>
 
 #include "games/blackrush/modBlackrush.h"
@@ -13,20 +12,6 @@ TEST(BlackrushRules, ThePileThinsAtSeventeenAndThirtyFive) {
     EXPECT_STREQ(PileKey(17), "HALF");
     EXPECT_STREQ(PileKey(34), "HALF");
     EXPECT_STREQ(PileKey(35), "BACK");
-    EXPECT_EQ(AceWorth(10), 11);
-    EXPECT_EQ(AceWorth(11), 1);
-}
-
-TEST(BlackrushRules, TheCounterFlashesFromFiftyAndExpiresPastTheTop) {
-    EXPECT_FALSE(AdvanceCounter(48, 0, 100).startFlash);
-    EXPECT_TRUE(AdvanceCounter(49, 0, 100).startFlash);
-    EXPECT_FALSE(AdvanceCounter(50, 0, 100).startFlash);
-    const CounterStep full = AdvanceCounter(99, 0, 100);
-    EXPECT_EQ(full.value, 100);
-    EXPECT_FALSE(full.expired);
-    const CounterStep expired = AdvanceCounter(100, 0, 100);
-    EXPECT_TRUE(expired.expired);
-    EXPECT_EQ(expired.value, 0);
 }
 
 TEST(BlackrushRules, BonusRoundNeedsMoreThanTheBonusScoreAfterRoundThree) {
