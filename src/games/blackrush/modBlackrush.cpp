@@ -18,10 +18,6 @@ bool IsCustomScoring(const ScoringValues& v) {
              v.FiveCardGimmeBonus == d.FiveCardGimmeBonus && v.CounterSpeed == d.CounterSpeed);
 }
 
-bool IsCounterSpeed(int interval) {
-    return interval == kNormalSpeed || interval == kSlowSpeed || interval == kSlowestSpeed;
-}
-
 int CardPoints(const std::string& code) {
     const int value = CardValue(code);
     return value > 10 ? 10 : value;

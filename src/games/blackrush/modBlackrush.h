@@ -44,9 +44,6 @@ struct ScoringValues {
 // its default. (CountDownScore does not count either.)
 bool IsCustomScoring(const ScoringValues& values);
 
-// Only the three speeds the dialog offers are taken from a settings file.
-bool IsCounterSpeed(int interval);
-
 // What a card counts on a column before its ace is judged: the number at
 // the start of its code, 10 for a picture card; an ace is 1.
 int CardPoints(const std::string& code);

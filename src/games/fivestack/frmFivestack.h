@@ -105,7 +105,6 @@ private:
     int16_t CardTotalValue = 0;
     int16_t CurrentRound = 0;
     bool QuitRequested = false;
-    bool Busted = false;
     bool Minimised = false;  // the clock was stopped by minimising the window
     BoardPlaces BoardMoves;  // all but the buttons, the status bar, menus and timers
 };

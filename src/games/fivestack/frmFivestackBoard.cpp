@@ -97,7 +97,6 @@ bool frmFivestack::CheckForBust(int index) {
     if (column.softAces == 0) {
         CloseCurrentRound();
         CardTotal = kBustTotal;
-        Busted = true;
         return true;
     }
     DeckPosition += 1;

@@ -196,7 +196,6 @@ void frmFivestack::cmdGiveUp_Click() {
     const bool reset = Reset();
     DoEvents();
     if (!loaded()) return;
-    Busted = false;
     if (GameInProgress) EndRound(CurrentRound);
     if (!loaded()) return;
     if (!reset) {

@@ -41,16 +41,16 @@ bool SaveWithSoftAce(Column& column) {
 }
 
 const std::array<CardTotalRow, 10> kCardTotalRows = {{
-    {105, "lbl105", "lblScore105", "105", 1000},
-    {104, "lbl104", "lblScore104", "104", 500},
-    {103, "lbl103", "lblscore103", "103", 400},
-    {102, "lbl102", "lblscore102", "102", 300},
-    {101, "lbl101", "lblscore101", "101", 250},
-    {100, "lbl100", "lblscore100", "100", 200},
-    {99, "lbl99", "lblscore99", "99", 150},
-    {98, "lbl98", "lblscore98", "98", 100},
-    {97, "lbl97", "lblscore97", "97", 50},
-    {0, "lblNothing", "lblScore0", "< 97", 0},
+    {"lbl105", "lblScore105", "105", 1000},
+    {"lbl104", "lblScore104", "104", 500},
+    {"lbl103", "lblscore103", "103", 400},
+    {"lbl102", "lblscore102", "102", 300},
+    {"lbl101", "lblscore101", "101", 250},
+    {"lbl100", "lblscore100", "100", 200},
+    {"lbl99", "lblscore99", "99", 150},
+    {"lbl98", "lblscore98", "98", 100},
+    {"lbl97", "lblscore97", "97", 50},
+    {"lblNothing", "lblScore0", "< 97", 0},
 }};
 
 int CardTotalRowIndex(int cardTotal) {

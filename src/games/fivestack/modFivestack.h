@@ -78,7 +78,6 @@ bool SaveWithSoftAce(Column& column);
 // The Card Total Value table, best row first; the last row stands for every
 // total below 97.
 struct CardTotalRow {
-    int total;              // 105 .. 97, 0 for "< 97"
     const char* rowLabel;   // "lbl105"
     const char* valueLabel; // "lblScore105"
     const char* caption;    // "105", "< 97"
