@@ -3,6 +3,8 @@
 // sections at the edges of their range, and a folder that can't be written.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "suite/common.h"
 #include "suite/files.h"
 #include "suite/gamewindow.h"
@@ -67,4 +69,20 @@ TEST(Settings, AFolderThatCantBeWrittenAppliesNothingAndSaysNothing) {
     EXPECT_TRUE(s.applied.empty());
     EXPECT_FALSE(WriteSettingsINI("\\Sample.Ini", s.layout()));
     AppPath = home;
+}
+
+// The browser edition keeps only its home folder: nothing is written beside
+// it, not even in a folder whose name begins with the home's, nor above it.
+TEST(Settings, NoFileIsWrittenOutsideTheTopFolder) {
+    const std::filesystem::path base = std::filesystem::temp_directory_path() / "cardhaven-top-test";
+    std::filesystem::create_directories(base / "home" / "sub");
+    std::filesystem::create_directories(base / "homely");
+    SetTopFolder((base / "home").string() + "/");
+    EXPECT_TRUE(WriteFileAtomic((base / "home" / "a.Ini").string(), "a"));
+    EXPECT_TRUE(WriteFileAtomic((base / "home" / "sub" / "b.Ini").string(), "b"));
+    EXPECT_FALSE(WriteFileAtomic((base / "homely" / "c.Ini").string(), "c"));
+    EXPECT_FALSE(WriteFileAtomic((base / "d.Ini").string(), "d"));
+    EXPECT_EQ(ParentFolder((base / "home").string()), (base / "home").string());
+    SetTopFolder("");
+    std::filesystem::remove_all(base);
 }

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Spirehold's rules where the window can't show them whole: the neighbour
-// rule at its edges, the shape of the towers, a back design changed while
-// the board is away, and what counts as custom scoring.
+// rule at its edges, the shape of the towers, and what counts as custom
+// scoring.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 
-#include "games/spirehold/modSpireholdBoard.h"
-#include "suite/cards.h"
+#include "games/spirehold/modSpirehold.h"
 #include "window/basic.h"
 
 using namespace ch;
@@ -47,18 +46,6 @@ TEST(SpireholdRules, EveryCoveredCardLiesUnderTwoNeighboursOfTheRowBelow) {
     onTable.fill(true);
     onTable[14] = onTable[15] = false;
     EXPECT_TRUE(CardsTurnedBy(15, onTable).empty());
-}
-
-TEST(SpireholdRules, ABackDesignChangedDuringAPauseReachesOnlyTheCardsOnShow) {
-    CreateStandardDeck();
-    Board board;
-    DealBoard(board, Deck, 2);
-    ShowCardsOnBoard(board, false, false);
-    board.towers[1].onTable = true;
-    RedrawBacks(board, 5);
-    EXPECT_TRUE(board.towers[1].FaceDown(5));
-    EXPECT_TRUE(board.towers[0].FaceDown(2));
-    EXPECT_EQ(board.towers[18].card, " 6H");
 }
 
 TEST(SpireholdRules, CustomScoringIsAnyValueOffItsDefault) {
