@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <map>
 #include <random>
+#include <utility>
 
 #include "suite/cards.h"
 #include "suite/common.h"
@@ -67,7 +68,11 @@ TEST(Cards, TheCatalogueKeepsEachBackKeyOnOneImageWhateverTheDesign) {
     ImageCatalogue cat;
     EXPECT_EQ(cat.indexOf("Empty"), 67);
     EXPECT_EQ(cat.indexOf("empty"), 0);
-    EXPECT_EQ(cat.pixelHeight(67), 100);
+    // {index, width, height} at the edges of each block: backs, empty place, faces, pointer, the rest.
+    const int sizes[][3] = {{1, 76, 98},  {2, 71, 96},  {12, 76, 98},  {13, 71, 96}, {14, 69, 94},
+                            {65, 69, 94}, {66, 32, 32}, {67, 76, 100}, {68, 71, 96}};
+    for (const auto& s : sizes)
+        EXPECT_EQ(std::make_pair(cat.pixelWidth(s[0]), cat.pixelHeight(s[0])), std::make_pair(s[1], s[2])) << s[0];
     std::mt19937 gen(11);
     for (int step = 0; step < 50; ++step) {
         const BackDesign& design = kBackDesigns[gen() % 4];
