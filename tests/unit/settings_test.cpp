@@ -3,6 +3,8 @@
 // sections at the edges of their range, and a folder that can't be written.
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 #include <filesystem>
 
 #include "suite/common.h"
@@ -73,7 +75,7 @@ TEST(Settings, AFolderThatCantBeWrittenAppliesNothingAndSaysNothing) {
 
 // The browser edition keeps only its home folder: nothing is written beside
 // it, not even in a folder whose name begins with the home's, nor above it.
-TEST(Settings, NoFileIsWrittenOutsideTheTopFolder) {
+TEST(Settings, NoFileIsWrittenOutsideTheTopFolderNorLeftHalfWrittenInIt) {
     const std::filesystem::path base = std::filesystem::temp_directory_path() / "cardhaven-top-test";
     std::filesystem::create_directories(base / "home" / "sub");
     std::filesystem::create_directories(base / "homely");
@@ -83,6 +85,15 @@ TEST(Settings, NoFileIsWrittenOutsideTheTopFolder) {
     EXPECT_FALSE(WriteFileAtomic((base / "homely" / "c.Ini").string(), "c"));
     EXPECT_FALSE(WriteFileAtomic((base / "d.Ini").string(), "d"));
     EXPECT_EQ(ParentFolder((base / "home").string()), (base / "home").string());
+    // A writer that died before its rename left a temporary: the next write
+    // of that file removes it; a live writer's (this one's parent) stays.
+    const std::string stale = (base / "home" / "a.Ini.tmp999999999").string();
+    const std::string live = (base / "home" / "a.Ini.tmp").string() + std::to_string(getppid());
+    ASSERT_TRUE(WriteFileAtomic(stale, "old"));
+    ASSERT_TRUE(WriteFileAtomic(live, "new"));
+    EXPECT_TRUE(WriteFileAtomic((base / "home" / "a.Ini").string(), "a2"));
+    EXPECT_FALSE(std::filesystem::exists(stale));
+    EXPECT_TRUE(std::filesystem::exists(live));
     SetTopFolder("");
     std::filesystem::remove_all(base);
 }
