@@ -21,6 +21,7 @@ TEST(SpireholdRules, KingAndAceFollowEachOtherBothWaysAndNothingFollowsItself) {
         EXPECT_FALSE(IsNeighbour(rank, rank)) << rank;
         EXPECT_FALSE(IsNeighbour(rank, kNoRank)) << rank;
         EXPECT_FALSE(IsNeighbour(rank, 0)) << rank;  // after the stack ran out
+        EXPECT_FALSE(IsNeighbour(0, rank)) << rank;  // no card
     }
 }
 
