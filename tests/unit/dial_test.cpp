@@ -2,6 +2,9 @@
 // The dial at its edges and the step arithmetic of AwardBonus.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <utility>
+
 #include "suite/common.h"
 #include "suite/dial.h"
 #include "window/basic.h"
@@ -44,6 +47,12 @@ TEST_F(DialWindow, NoPieOutsideOneTo360AndTheAngleRoundsHalfToEven) {
     }
     DrawTimeDial(1, window);
     EXPECT_EQ(window.c("Surface").drawingText(), "pie -90 -89 65280;line;line;circle");
+    // A quarter is whole at its last degree; the next degree starts the next one.
+    for (const auto& [angle, pies] : {std::pair{90, 1}, {91, 2}, {180, 2}, {181, 3}, {270, 3}, {271, 4}, {359, 4}}) {
+        DrawTimeDial(angle, window);
+        const std::string text = window.c("Surface").drawingText();
+        EXPECT_EQ(std::count(text.begin(), text.end(), 'p'), pies) << angle;
+    }
     TimeLimit = 80;  // 4.5 degrees a second
     EXPECT_EQ(DialAngle(1), 4);
     EXPECT_EQ(DialAngle(3), 14);  // 13.5
