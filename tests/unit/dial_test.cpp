@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 #include "suite/common.h"
@@ -40,7 +41,8 @@ protected:
 }  // namespace
 
 TEST_F(DialWindow, NoPieOutsideOneTo360AndTheAngleRoundsHalfToEven) {
-    EXPECT_EQ(DialCenterX, 502);
+    using Dial = std::tuple<int, int, int, int>;
+    EXPECT_EQ(Dial(DialCenterX, DialCenterY, DialRadius, DialLastColor), Dial(502, 502, 472, 0xFFFFFF));
     for (int angle : {0, 361, -5}) {
         DrawTimeDial(angle, window);
         EXPECT_EQ(window.c("Surface").drawingText(), "line;line;circle") << angle;
