@@ -1,52 +1,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Card codes, the standard deck, the random draws and the shuffle, and the
+// image catalogue's keys as the back design changes.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <map>
 #include <random>
+#include <utility>
 
 #include "suite/cards.h"
 #include "suite/common.h"
 #include "window/basic.h"
-#include "window/headless.h"
-#include "window/runtime.h"
 
 using namespace ch;
 
-namespace {
-std::vector<std::string> Sorted(std::vector<std::string> v) {
-    for (std::string& s : v) s = Trim(s);
-    std::sort(v.begin(), v.end());
-    return v;
-}
-
-// A Sumfall-sized deck of 64 with repeated codes.
-void Make64CardDeck() {
-    ASSERT_TRUE(CreateStandardDeck());
-    for (int i = 1; i <= 12; ++i) Deck.push_back(std::to_string(i) + "H");
-}
-}  // namespace
-
-TEST(CardCodes, BlankAndPlainCodesAreTheSameCard) {
+TEST(Cards, BlankAndPlainCodesAreTheSameCardAndTheDeckRunsBySuit) {
     EXPECT_EQ(CardValue(" 10D"), 10);
-    EXPECT_EQ(CardValue("10D"), 10);
     EXPECT_EQ(CardValue("2D"), 2);
-    EXPECT_EQ(CardKey(" 10D"), CardKey("10D"));
     EXPECT_EQ(ImageList2().indexOf(CardKey(" 10D")), 53 + 9);
-}
-
-TEST(StandardDeck, HoldsBlankCodesBySuitBlocks) {
     ASSERT_TRUE(CreateStandardDeck());
     ASSERT_EQ(DeckUpperBound(), 52);
-    EXPECT_EQ(Deck[0], "");
-    EXPECT_EQ(Deck[1], " 1S");
-    EXPECT_EQ(Deck[13], " 13S");
-    EXPECT_EQ(Deck[14], " 1H");
-    EXPECT_EQ(Deck[27], " 1C");
-    EXPECT_EQ(Deck[52], " 13D");
+    const std::vector<std::string> some = {Deck[0], Deck[1], Deck[13], Deck[14], Deck[27], Deck[52]};
+    EXPECT_EQ(some, (std::vector<std::string>{"", " 1S", " 13S", " 1H", " 1C", " 13D"}));
 }
 
-TEST(RandomIntegers, StayWithinTheirBounds) {
+TEST(Cards, RandomIntegersStayWithinTheirBoundsAndQueuedOnesComeFirst) {
     randomness::Reset();
     EXPECT_EQ(RandomInteger(1, 1), 1);
     std::map<int, int> seen;
@@ -54,32 +32,16 @@ TEST(RandomIntegers, StayWithinTheirBounds) {
     EXPECT_EQ(seen.begin()->first, 14);
     EXPECT_EQ(seen.rbegin()->first, 65);
     EXPECT_EQ(seen.size(), 52u);
-}
-
-TEST(RandomIntegers, QueuedValuesComeFirstAndOutOfBoundsIsReported) {
-    randomness::Reset();
     std::vector<std::string> reports;
     randomness::SetFailureReporter([&](const std::string& r) { reports.push_back(r); });
     randomness::Queue({3, 9});
     EXPECT_EQ(RandomInteger(1, 5), 3);
-    EXPECT_EQ(RandomInteger(1, 5), 9);
+    EXPECT_EQ(RandomInteger(1, 5), 9);  // out of bounds: served and reported
     EXPECT_EQ(reports.size(), 1u);
     randomness::SetFailureReporter(nullptr);
 }
 
-TEST(Shuffle, A64CardDeckTakes64DrawsAndKeepsItsCards) {
-    randomness::Reset();
-    Make64CardDeck();
-    const std::vector<std::string> before = Deck;
-    const long draws = randomness::DrawCount();
-    ASSERT_TRUE(ShuffleDeck());
-    EXPECT_EQ(randomness::DrawCount() - draws, 64);
-    EXPECT_EQ(Sorted(Deck), Sorted(before));
-    EXPECT_NE(Deck, before);
-    EXPECT_EQ(Deck[0], "");
-}
-
-TEST(Shuffle, IsTheSwapWithTheWholeDeckAtEveryStep) {
+TEST(Cards, TheShuffleSwapsWithTheWholeDeckAtEveryStep) {
     randomness::Reset();
     Deck = {"", "1S", "2S", "3S"};
     randomness::Queue({3, 3, 1});
@@ -88,23 +50,7 @@ TEST(Shuffle, IsTheSwapWithTheWholeDeckAtEveryStep) {
     EXPECT_EQ(Deck, (std::vector<std::string>{"", "2S", "1S", "3S"}));
 }
 
-TEST(Shuffle, AStackedOrderComesOutOfTheRealShuffle) {
-    randomness::Reset();
-    Make64CardDeck();
-    std::vector<std::string> order(Deck.begin() + 1, Deck.end());
-    std::mt19937 gen(7);
-    std::shuffle(order.begin(), order.end(), gen);
-    randomness::StackNextShuffle(order);
-    randomness::Queue({20});  // a splash tick meanwhile takes the queued draw, not the stack
-    EXPECT_EQ(RandomInteger(14, 65), 20);
-    ASSERT_TRUE(ShuffleDeck());
-    for (size_t i = 0; i < order.size(); ++i) EXPECT_EQ(Trim(Deck[i + 1]), Trim(order[i])) << "at " << i + 1;
-    // The stack served one shuffle only.
-    ASSERT_TRUE(ShuffleDeck());
-    EXPECT_NE(std::vector<std::string>(Deck.begin() + 1, Deck.end()), order);
-}
-
-TEST(Shuffle, AStackThatIsNotAnOrderOfTheDeckIsReported) {
+TEST(Cards, AStackThatIsNotAnOrderOfTheDeckIsReportedAndTheDeckKeepsItsCards) {
     randomness::Reset();
     std::vector<std::string> reports;
     randomness::SetFailureReporter([&](const std::string& r) { reports.push_back(r); });
@@ -112,33 +58,23 @@ TEST(Shuffle, AStackThatIsNotAnOrderOfTheDeckIsReported) {
     randomness::StackNextShuffle({"1S", "1S", "3S"});
     EXPECT_TRUE(ShuffleDeck());
     EXPECT_EQ(reports.size(), 1u);
-    EXPECT_EQ(Sorted(Deck), Sorted({"", "1S", "2S", "3S"}));
+    std::vector<std::string> sorted = Deck;
+    std::sort(sorted.begin(), sorted.end());
+    EXPECT_EQ(sorted, (std::vector<std::string>{"", " 1S", " 2S", " 3S"}));
     randomness::SetFailureReporter(nullptr);
 }
 
-TEST(Catalogue, HoldsEveryKeyAtItsIndex) {
+TEST(Cards, TheCatalogueKeepsEachBackKeyOnOneImageWhateverTheDesign) {
     ImageCatalogue cat;
-    EXPECT_EQ(cat.key(1), "FULL");
-    EXPECT_EQ(cat.key(13), "EMPTY");
-    EXPECT_EQ(cat.key(14), "1S");
-    EXPECT_EQ(cat.key(26), "13S");
-    EXPECT_EQ(cat.key(27), "1H");
-    EXPECT_EQ(cat.key(40), "1C");
-    EXPECT_EQ(cat.key(65), "13D");
-    EXPECT_EQ(cat.key(66), "POINTER");
-    EXPECT_EQ(cat.key(67), "Empty");
-    EXPECT_EQ(cat.key(68), "SFUP");
-    EXPECT_EQ(cat.indexOf("EMPTY"), 13);
     EXPECT_EQ(cat.indexOf("Empty"), 67);
     EXPECT_EQ(cat.indexOf("empty"), 0);
-    EXPECT_EQ(cat.pixelWidth(20), 69);
-    EXPECT_EQ(cat.pixelHeight(67), 100);
-}
-
-TEST(Catalogue, AnySequenceOfDesignChangesLeavesEachBackKeyOnOneImage) {
-    ImageCatalogue cat;
+    // {index, width, height} at the edges of each block: backs, empty place, faces, pointer, the rest.
+    const int sizes[][3] = {{1, 76, 98},  {2, 71, 96},  {12, 76, 98},  {13, 71, 96}, {14, 69, 94},
+                            {65, 69, 94}, {66, 32, 32}, {67, 76, 100}, {68, 71, 96}};
+    for (const auto& s : sizes)
+        EXPECT_EQ(std::make_pair(cat.pixelWidth(s[0]), cat.pixelHeight(s[0])), std::make_pair(s[1], s[2])) << s[0];
     std::mt19937 gen(11);
-    for (int step = 0; step < 200; ++step) {
+    for (int step = 0; step < 50; ++step) {
         const BackDesign& design = kBackDesigns[gen() % 4];
         cat.moveBackKeys(design.firstIndex);
         EXPECT_EQ(cat.indexOf("FULL"), design.firstIndex);
@@ -149,15 +85,4 @@ TEST(Catalogue, AnySequenceOfDesignChangesLeavesEachBackKeyOnOneImage) {
         EXPECT_EQ(keyed, 3);
         EXPECT_EQ(cat.key(13), "EMPTY");
     }
-}
-
-TEST(Catalogue, ClearDeckCheckUnticksTheFourDesignEntries) {
-    HeadlessPlatform platform;
-    Runtime runtime(platform);
-    Form window(runtime, "frmGame");
-    for (const BackDesign& d : kBackDesigns) window.add({ControlKind::Menu, d.menu, -1, 0, 0, 0, 0, d.caption, "mnuDeck"});
-    window.c("mnuHot").setChecked(true);
-    window.c("mnuPalm").setChecked(true);
-    ClearDeckCheck(window);
-    for (const BackDesign& d : kBackDesigns) EXPECT_FALSE(window.c(d.menu).checked()) << d.menu;
 }

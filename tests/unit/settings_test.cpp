@@ -1,131 +1,99 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Settings files: the writer's form and order, and the reader on short,
-// empty and damaged files.
+// Settings files: the reader on short, damaged and odd files, number
+// sections at the edges of their range, and a folder that can't be written.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <unistd.h>
+
 #include <filesystem>
 
 #include "suite/common.h"
 #include "suite/files.h"
+#include "suite/gamewindow.h"
 #include "suite/settings.h"
-#include "window/basic.h"
-#include "window/runtime.h"
-#include "window/headless.h"
 
 using namespace ch;
 
 namespace {
-
 // Two sections kept as plain values, with a log of what the reader applied.
 struct Sample {
     std::string time = "60";
-    std::string sounds = "True";
     std::vector<std::string> applied;
 
     SettingsLayout layout() {
         return {
-            {"[Time]", [this](const std::string& v) { time = v; applied.push_back("time " + v); }, [this] { return time; }},
-            {"[Play Sounds]", [this](const std::string& v) { sounds = v; applied.push_back("sounds " + v); },
-             [this] { return sounds; }},
+            {"[Time]",
+             [this](const std::string& v) {
+                 time = v;
+                 applied.push_back("time " + v);
+             },
+             [this] { return time; }},
+            {"[Play Sounds]", [this](const std::string& v) { applied.push_back("sounds " + v); }, nullptr},
             {"[Written Only]", nullptr, [] { return std::string("7"); }},
         };
     }
 };
-
 }  // namespace
 
-TEST(SettingsText, SectionValueAndEmptyLineInWritingOrder) {
+TEST(Settings, TheReaderTakesTheLineAfterAKnownSectionAsItsValueWhateverItHolds) {
     Sample s;
-    EXPECT_EQ(SettingsText(s.layout()), "[Time]\r\n60\r\n\r\n[Play Sounds]\r\nTrue\r\n\r\n[Written Only]\r\n7\r\n\r\n");
-    // A section may be written twice, as one game does.
-    SettingsLayout twice = s.layout();
-    twice.push_back(twice[0]);
-    EXPECT_EQ(SettingsText(twice).substr(SettingsText(s.layout()).size()), "[Time]\r\n60\r\n\r\n");
-}
-
-TEST(SettingsText, ReaderAppliesKnownSectionsInFileOrder) {
-    Sample s;
-    ApplySettingsText("[Play Sounds]\r\nFalse\r\n\r\n[Time]\r\n90\r\n\r\n[Time]\r\n30\r\n", s.layout());
-    EXPECT_EQ(s.applied, (std::vector<std::string>{"sounds False", "time 90", "time 30"}));
-}
-
-TEST(SettingsText, ReaderSkipsUnknownAndDamagedLines) {
-    Sample s;
-    // Unknown sections, a section with blanks around it, a section written in
-    // other case, one that is only ever written: all skipped.
-    ApplySettingsText("[Bogus]\r\n1\r\n [Time]\r\n2\r\n[time]\r\n3\r\n[Written Only]\r\n4\r\n\x01\xff\r\n", s.layout());
+    // Unknown sections, one with blanks around it or in other case, one that
+    // is only ever written, and a section on the last line: all skipped.
+    ApplySettingsText("[Bogus]\r\n1\r\n [Time]\r\n2\r\n[time]\r\n3\r\n[Written Only]\r\n4\r\n\x01\xff\r\n[Time]",
+                      s.layout());
     EXPECT_TRUE(s.applied.empty());
-    EXPECT_EQ(s.time, "60");
+    // A value cut off without its line end, an empty value, a value that looks
+    // like a section; the same section twice applies twice, in the file's order.
+    ApplySettingsText("[Play Sounds]\r\n\r\n[Time]\r\n[Play Sounds]\r\nFalse\r\n[Time]\r\n4", s.layout());
+    EXPECT_EQ(s.applied, (std::vector<std::string>{"sounds ", "time [Play Sounds]", "time 4"}));
+    EXPECT_EQ(SettingsText(s.layout()), "[Time]\r\n4\r\n\r\n[Written Only]\r\n7\r\n\r\n");
 }
 
-TEST(SettingsText, AValueOutOfItsRangeChangesNothingAndTheRestStillApplies) {
-    int16_t goal = 11;
-    std::string sounds = "True";
-    SettingsLayout layout = {
-        {"[CardGoal]", [&goal](const std::string& v) { goal = CInt(Val(v)); }, nullptr},
-        {"[Play Sounds]", [&sounds](const std::string& v) { sounds = v; }, nullptr},
-    };
-    ApplySettingsText("[CardGoal]\r\n99999\r\n[Play Sounds]\r\nFalse\r\n", layout);
-    EXPECT_EQ(goal, 11);
-    EXPECT_EQ(sounds, "False");
+TEST(Settings, NumbersOutsideTheSettingsRangeChangeNothingAndTheRestRounds) {
+    int16_t small = 7;
+    int32_t large = 9;
+    const SettingsLayout layout = {NumberSection("[Small]", small), NumberSection("[Large]", large)};
+    ApplySettingsText("[Small]\r\n40000\r\n[Large]\r\n99999999999\r\n", layout);
+    EXPECT_EQ(small, 7);
+    EXPECT_EQ(large, 9);
+    ApplySettingsText("[Small]\r\n-32768\r\n[Large]\r\n2.5\r\n", layout);
+    EXPECT_EQ(small, -32768);
+    EXPECT_EQ(large, 2);
+    ApplySettingsText("[Large]\r\nabc\r\n", layout);
+    EXPECT_EQ(large, 0);
 }
 
-TEST(SettingsText, ShortAndEmptyFilesApplyWhatTheyHold) {
+TEST(Settings, AFolderThatCantBeWrittenAppliesNothingAndSaysNothing) {
     Sample s;
-    ApplySettingsText("", s.layout());
-    ApplySettingsText("\r\n\r\n", s.layout());
-    // A section on the last line has no value.
-    ApplySettingsText("[Time]", s.layout());
-    ApplySettingsText("[Time]\r\n", s.layout());
-    EXPECT_TRUE(s.applied.empty());
-    // A value cut off without its line end is still a value; an empty one too.
-    ApplySettingsText("[Time]\r\n4", s.layout());
-    ApplySettingsText("[Play Sounds]\r\n\r\n", s.layout());
-    EXPECT_EQ(s.applied, (std::vector<std::string>{"time 4", "sounds "}));
-    // The line after a section is its value even when it looks like a section.
-    s.applied.clear();
-    ApplySettingsText("[Time]\r\n[Play Sounds]\r\nFalse\r\n", s.layout());
-    EXPECT_EQ(s.applied, (std::vector<std::string>{"time [Play Sounds]"}));
-}
-
-namespace {
-class SettingsFiles : public ::testing::Test {
-protected:
-    void SetUp() override {
-        std::string pattern = (std::filesystem::temp_directory_path() / "cardhaven-ini-XXXXXX").string();
-        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-        AppPath = pattern;
-    }
-    void TearDown() override { std::filesystem::remove_all(AppPath); }
-};
-}  // namespace
-
-TEST_F(SettingsFiles, AMissingFileIsWrittenWithTheCurrentValuesAndRead) {
-    Sample s;
-    s.time = "45";
-    ReadSettingsINI("\\Sample.Ini", s.layout());
-    std::string text;
-    ASSERT_TRUE(ReadWholeFile(AppFile("\\Sample.Ini"), text));
-    EXPECT_EQ(text, "[Time]\r\n45\r\n\r\n[Play Sounds]\r\nTrue\r\n\r\n[Written Only]\r\n7\r\n\r\n");
-    EXPECT_EQ(s.applied, (std::vector<std::string>{"time 45", "sounds True"}));
-}
-
-TEST_F(SettingsFiles, AnExistingFileIsOnlyRead) {
-    Sample s;
-    WriteFileAtomic(AppFile("\\Sample.Ini"), "[Time]\r\n30\r\n");
-    ReadSettingsINI("\\Sample.Ini", s.layout());
-    EXPECT_EQ(s.time, "30");
-    std::string text;
-    ASSERT_TRUE(ReadWholeFile(AppFile("\\Sample.Ini"), text));
-    EXPECT_EQ(text, "[Time]\r\n30\r\n");
-}
-
-TEST_F(SettingsFiles, AFolderThatCantBeWrittenAppliesNothingAndSaysNothing) {
-    Sample s;
-    AppPath += "/no/such/folder";
+    const std::string home = AppPath;
+    AppPath = "/no/such/folder";
     ReadSettingsINI("\\Sample.Ini", s.layout());
     EXPECT_TRUE(s.applied.empty());
     EXPECT_FALSE(WriteSettingsINI("\\Sample.Ini", s.layout()));
-    AppPath = AppPath.substr(0, AppPath.size() - std::string("/no/such/folder").size());
+    AppPath = home;
+}
+
+// The browser edition keeps only its home folder: nothing is written beside
+// it, not even in a folder whose name begins with the home's, nor above it.
+TEST(Settings, NoFileIsWrittenOutsideTheTopFolderNorLeftHalfWrittenInIt) {
+    const std::filesystem::path base = std::filesystem::temp_directory_path() / "cardhaven-top-test";
+    std::filesystem::create_directories(base / "home" / "sub");
+    std::filesystem::create_directories(base / "homely");
+    SetTopFolder((base / "home").string() + "/");
+    EXPECT_TRUE(WriteFileAtomic((base / "home" / "a.Ini").string(), "a"));
+    EXPECT_TRUE(WriteFileAtomic((base / "home" / "sub" / "b.Ini").string(), "b"));
+    EXPECT_FALSE(WriteFileAtomic((base / "homely" / "c.Ini").string(), "c"));
+    EXPECT_FALSE(WriteFileAtomic((base / "d.Ini").string(), "d"));
+    EXPECT_EQ(ParentFolder((base / "home").string()), (base / "home").string());
+    // A writer that died before its rename left a temporary: the next write
+    // of that file removes it; a live writer's (this one's parent) stays.
+    const std::string stale = (base / "home" / "a.Ini.tmp999999999").string();
+    const std::string live = (base / "home" / "a.Ini.tmp").string() + std::to_string(getppid());
+    ASSERT_TRUE(WriteFileAtomic(stale, "old"));
+    ASSERT_TRUE(WriteFileAtomic(live, "new"));
+    EXPECT_TRUE(WriteFileAtomic((base / "home" / "a.Ini").string(), "a2"));
+    EXPECT_FALSE(std::filesystem::exists(stale));
+    EXPECT_TRUE(std::filesystem::exists(live));
+    SetTopFolder("");
+    std::filesystem::remove_all(base);
 }

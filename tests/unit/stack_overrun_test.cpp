@@ -1,56 +1,34 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The stack turned far past its end, tens of thousands of times in one
-// round, through the real driver: the index of the next card stops at the
-// top of its 16-bit range, and every further click is the same refused turn.
+// A stack turned tens of thousands of times past its end: the indexes of the
+// next card and of the waste pile stop at the top of their 16-bit range, and
+// every further turn is the same refused turn.
 #include <gtest/gtest.h>
 
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <string>
+#include <cstdint>
 
-namespace {
-namespace fs = std::filesystem;
+#include "games/duopick/modDuopickBoard.h"
+#include "games/spirehold/modSpireholdBoard.h"
+#include "suite/cards.h"
 
-// Plays `game`, turns its stack `turns` times with the sounds off and once
-// more with them on, then checks `expectations`; returns what the driver printed.
-std::string TurnStack(const std::string& game, int turns, const std::string& expectations) {
-    std::string pattern = (fs::temp_directory_path() / "stack-overrun-XXXXXX").string();
-    const fs::path home = mkdtemp(pattern.data());
-    std::string script = "click frmSelect.cmd" + game + "\nclick frm" + game + ".cmdPlay\nclick frm" + game +
-                         ".mnuSounds\n";
-    for (int i = 0; i < turns; ++i) script += "click frm" + game + ".CardStackPicture\n";
-    script += "click frm" + game + ".mnuSounds\nclick frm" + game + ".CardStackPicture\n" + expectations;
-    std::ofstream(home / "run.script") << script;
-    const std::string command = std::string(CARDHAVEN_SCRIPT_BIN) + " --home " + home.string() + " " +
-                                (home / "run.script").string() + " 2>&1";
-    std::string out;
-    FILE* pipe = popen(command.c_str(), "r");
-    char buf[512];
-    while (pipe && fgets(buf, sizeof buf, pipe)) out += buf;
-    if (pipe) pclose(pipe);
-    fs::remove_all(home);
-    return out;
-}
-}  // namespace
+using namespace ch;
 
 TEST(StackOverrun, SpireholdKeepsRefusingTheTurn) {
-    EXPECT_EQ(TurnStack("Spirehold", 32800,
-                        "expect sounds \"\\Click.wav\" \"\\Chord.wav\"\n"
-                        "expect frmSpirehold.StackIndex 32767\n"
-                        "expect frmSpirehold.UpCardValue 0\n"
-                        "expect frmSpirehold.CardStackPicture.Picture EMPTY\n"
-                        "expect frmSpirehold.lblCards.Caption 0\n"),
-              "");
+    CreateStandardDeck();
+    spirehold::Board board;
+    spirehold::DealBoard(board, Deck, 2);
+    board.stackIndex = INT16_MAX - 1;
+    for (int i = 0; i < 3; ++i) spirehold::ClickStack(board, Deck);
+    EXPECT_EQ(board.stackIndex, INT16_MAX);
+    EXPECT_STREQ(spirehold::StackStageKey(board.stackIndex), "");
 }
 
 TEST(StackOverrun, DuopickKeepsRefusingTheTurn) {
-    EXPECT_EQ(TurnStack("Duopick", 32800,
-                        "expect sounds \"\\Click.wav\" \"\\Chord.wav\"\n"
-                        "expect frmDuopick.StackIndex 32767\n"
-                        "expect frmDuopick.WastePos 32767\n"
-                        "expect frmDuopick.CardStackPicture.Picture EMPTY\n"
-                        "expect frmDuopick.lblCards.Caption 0\n"),
-              "");
+    CreateStandardDeck();
+    duopick::Board board;
+    duopick::DealBoard(board, Deck);
+    board.stackIndex = INT16_MAX - 1;
+    board.wastePos = INT16_MAX - 1;
+    for (int i = 0; i < 3; ++i) EXPECT_TRUE(duopick::ClickStack(board, Deck).overrun);
+    EXPECT_EQ(board.stackIndex, INT16_MAX);
+    EXPECT_EQ(board.wastePos, INT16_MAX);
 }
