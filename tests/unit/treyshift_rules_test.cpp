@@ -7,10 +7,7 @@ using namespace ch::treyshift;
 
 // A column read from the top, with the codes as the deck writes them.
 TEST(TreyshiftColumn, TripsRunsAndFlushesReadFromTheTop) {
-    struct Case {
-        const char *top, *middle, *bottom;
-        ColumnKind kind;
-    };
+    struct Case { const char *top, *middle, *bottom; ColumnKind kind; };
     const Case cases[] = {
         {" 3S", " 3H", " 3D", ColumnKind::Trip},
         {"1S", "1H", "1C", ColumnKind::Trip},
