@@ -40,7 +40,6 @@ TEST(HandgridHands, TheAceIsHighOrLowWithNoWrapAround) {
 TEST(HandgridHands, PartialLinesNameWhatStandsInThem) {
     ExpectNames({{{"0", "0", "0", "0", "0"}, "Nothing"},
                  {{"7S", "0", "7H", "0", "0"}, "1 Pair"},
-                 {{"7S", "0", "7H", "3C", "3D"}, "2 Pair"},
                  {{"7S", "7C", "7H", "0", "2D"}, "3 of a kind"},
                  {{"7S", "7C", "7H", "7D", "0"}, "4 of a kind"},
                  // Four of a suit or four in a row are nothing yet.
