@@ -47,7 +47,7 @@ TEST(HandgridHands, PartialLinesNameWhatStandsInThem) {
                  {{"5S", "6H", "7C", "8D", "0"}, "Nothing"},
                  // "10" is the rank ten, not a one and a zero.
                  {{"10S", "1H", "0", "0", "0"}, "Nothing"},
-                 {{"10S", "10H", "10C", "10D", "0"}, "4 of a kind"}});
+                 {{"10S", "10H", "0", "0", "0"}, "1 Pair"}});
 }
 
 TEST(HandgridGrid, TransposeTurnsColumnsIntoRowsAndBack) {
