@@ -6,78 +6,48 @@
 using namespace ch::handgrid;
 
 namespace {
-std::string Name(const Line& line) { return HandName(EvaluateHand(line)); }
+void ExpectNames(std::initializer_list<std::pair<Line, const char*>> cases) {
+    for (const auto& [line, name] : cases)
+        EXPECT_STREQ(HandName(EvaluateHand(line)), name) << line[0] << line[1] << line[2] << line[3] << line[4];
+}
 }  // namespace
 
-TEST(HandgridHands, FullLinesNameEveryHand) {
-    EXPECT_EQ(Name({"2S", "5H", "9C", "11D", "13S"}), "Nothing");
-    EXPECT_EQ(Name({"2S", "2H", "9C", "11D", "13S"}), "1 Pair");
-    EXPECT_EQ(Name({"2S", "2H", "9C", "9D", "13S"}), "2 Pair");
-    EXPECT_EQ(Name({"2S", "2H", "2C", "9D", "13S"}), "3 of a kind");
-    EXPECT_EQ(Name({"5S", "6H", "7C", "8D", "9S"}), "Straight");
-    EXPECT_EQ(Name({"2H", "5H", "9H", "11H", "13H"}), "Flush");
-    EXPECT_EQ(Name({"2S", "2H", "2C", "9D", "9S"}), "Full House");
-    EXPECT_EQ(Name({"9S", "9H", "9C", "9D", "13S"}), "4 of a kind");
-    EXPECT_EQ(Name({"5C", "6C", "7C", "8C", "9C"}), "St. Flush");
-    EXPECT_EQ(Name({"10D", "11D", "12D", "13D", "1D"}), "Royal Flush");
+// The grids the scenarios fill name the other hands.
+TEST(HandgridHands, FullLinesNameEveryHandInAnyOrder) {
+    ExpectNames({{{"2S", "9D", "2H", "13S", "2C"}, "3 of a kind"},
+                 {{"9D", "2S", "2H", "9S", "2C"}, "Full House"},
+                 {{"5C", "6C", "7C", "8C", "9C"}, "St. Flush"},
+                 {{"13D", "1D", "12D", "10D", "11D"}, "Royal Flush"},
+                 {{"6S", "7H", "8C", "9D", "10S"}, "Straight"}});
 }
 
-TEST(HandgridHands, AceHighAndAceLowAndNothingBetween) {
-    // Ace high: mixed suits a straight, one suit the royal flush.
-    EXPECT_EQ(Name({"1S", "10H", "11C", "12D", "13S"}), "Straight");
-    EXPECT_EQ(Name({"1S", "10S", "11S", "12S", "13S"}), "Royal Flush");
-    // Ace low of one suit is a straight flush, never royal.
-    EXPECT_EQ(Name({"1H", "2H", "3H", "4H", "5H"}), "St. Flush");
-    EXPECT_EQ(Name({"1H", "2S", "3H", "4H", "5H"}), "Straight");
-    // No wrap-around past the king.
-    EXPECT_EQ(HandString({"13S", "1H", "2C", "3D", "4S"}), "123413");
-    EXPECT_EQ(Name({"13S", "1H", "2C", "3D", "4S"}), "Nothing");
-    EXPECT_EQ(Name({"12S", "13H", "1C", "2D", "3S"}), "Nothing");
-    // Every run from ace-low to ace-high, and the run one short of each.
+TEST(HandgridHands, TheAceIsHighOrLowWithNoWrapAround) {
+    ExpectNames({{{"1S", "10H", "11C", "12D", "13S"}, "Straight"},
+                 {{"2C", "3D", "4S", "5H", "1S"}, "Straight"},
+                 {{"5S", "1S", "4S", "2S", "3S"}, "St. Flush"},
+                 {{"13S", "1H", "2C", "3D", "4S"}, "Nothing"},
+                 {{"12S", "13H", "1C", "2D", "3S"}, "Nothing"},
+                 {{"9S", "10H", "11C", "12D", "1S"}, "Nothing"}});
+    // Every run from ace-low to ace-high.
     for (int low = 1; low <= 10; ++low) {
         Line run;
-        for (int i = 0; i < 5; ++i) run[static_cast<size_t>(i)] = std::to_string((low + i - 1) % 13 + 1) + (i ? "S" : "H");
-        EXPECT_EQ(Name(run), "Straight") << low;
+        for (int i = 0; i < 5; ++i)
+            run[static_cast<size_t>(i)] = std::to_string((low + i - 1) % 13 + 1) + (i ? "S" : "H");
+        EXPECT_STREQ(HandName(EvaluateHand(run)), "Straight") << low;
     }
-    EXPECT_EQ(Name({"9S", "10H", "11C", "12D", "1S"}), "Nothing");
-}
-
-TEST(HandgridHands, TheOrderOnTheTableDoesNotMatter) {
-    EXPECT_EQ(Name({"2C", "3D", "4S", "5H", "1S"}), "Straight");
-    EXPECT_EQ(Name({"5S", "1S", "4S", "2S", "3S"}), "St. Flush");
-    EXPECT_EQ(Name({"13D", "1D", "12D", "10D", "11D"}), "Royal Flush");
-    EXPECT_EQ(HandString({"12S", "1H", "10C", "13D", "11S"}), "110111213");
-    EXPECT_EQ(HandString({"9S", "10H", "0", "13D", "0"}), "00910" "13");
 }
 
 TEST(HandgridHands, PartialLinesNameWhatStandsInThem) {
-    EXPECT_EQ(Name({"0", "0", "0", "0", "0"}), "Nothing");
-    EXPECT_EQ(Name({"7S", "0", "7H", "0", "0"}), "1 Pair");
-    EXPECT_EQ(Name({"7S", "0", "7H", "3C", "3D"}), "2 Pair");
-    EXPECT_EQ(Name({"7S", "7C", "7H", "0", "0"}), "3 of a kind");
-    EXPECT_EQ(Name({"7S", "7C", "7H", "0", "2D"}), "3 of a kind");
-    EXPECT_EQ(Name({"7S", "7C", "7H", "7D", "0"}), "4 of a kind");
-    EXPECT_EQ(Name({"7S", "7C", "7H", "2D", "2S"}), "Full House");
-    // Four of a suit or four in a row are nothing yet.
-    EXPECT_EQ(Name({"2H", "5H", "9H", "11H", "0"}), "Nothing");
-    EXPECT_EQ(Name({"5S", "6H", "7C", "8D", "0"}), "Nothing");
-}
-
-TEST(HandgridHands, ATenIsOneRankTally) {
-    // "10" is the rank ten, not a one and a zero: a ten beside an ace is no pair.
-    EXPECT_EQ(Name({"10S", "1H", "0", "0", "0"}), "Nothing");
-    EXPECT_EQ(Name({"10S", "10H", "0", "0", "0"}), "1 Pair");
-    EXPECT_EQ(Name({"10S", "10H", "10C", "10D", "0"}), "4 of a kind");
-    EXPECT_EQ(Name({"6S", "7H", "8C", "9D", "10S"}), "Straight");
-}
-
-TEST(HandgridGrid, LinesReadTrimmedWithEmptyCellsAsZero) {
-    Grid grid;
-    grid[5] = " 10S";
-    grid[9] = "1H";
-    const Line row1 = LineOf(grid, 1);
-    EXPECT_EQ(row1, (Line{"10S", "0", "0", "0", "1H"}));
-    EXPECT_EQ(LineOf(grid, 0), (Line{"0", "0", "0", "0", "0"}));
+    ExpectNames({{{"0", "0", "0", "0", "0"}, "Nothing"},
+                 {{"7S", "0", "7H", "0", "0"}, "1 Pair"},
+                 {{"7S", "7C", "7H", "0", "2D"}, "3 of a kind"},
+                 {{"7S", "7C", "7H", "7D", "0"}, "4 of a kind"},
+                 // Four of a suit or four in a row are nothing yet.
+                 {{"2H", "5H", "9H", "11H", "0"}, "Nothing"},
+                 {{"5S", "6H", "7C", "8D", "0"}, "Nothing"},
+                 // "10" is the rank ten, not a one and a zero.
+                 {{"10S", "1H", "0", "0", "0"}, "Nothing"},
+                 {{"10S", "10H", "0", "0", "0"}, "1 Pair"}});
 }
 
 TEST(HandgridGrid, TransposeTurnsColumnsIntoRowsAndBack) {
@@ -86,35 +56,25 @@ TEST(HandgridGrid, TransposeTurnsColumnsIntoRowsAndBack) {
     TransposeCards(grid);
     for (int r = 0; r < 5; ++r)
         for (int c = 0; c < 5; ++c) EXPECT_EQ(grid[static_cast<size_t>(r * 5 + c)], std::to_string(c * 5 + r));
-    TransposeCards(grid);
-    for (int i = 0; i < kCells; ++i) EXPECT_EQ(grid[static_cast<size_t>(i)], std::to_string(i));
+    EXPECT_EQ(LineOf(Grid{{"", "", "", "", "", " 10S", "", "", "", "1H"}}, 1), (Line{"10S", "0", "0", "0", "1H"}));
 }
 
-TEST(HandgridTables, Colours) {
-    EXPECT_EQ(HandColour("Nothing"), static_cast<int>(0x80000012u));
-    EXPECT_EQ(HandColour("1 Pair"), 0xFF0000);
-    EXPECT_EQ(OverWritesColour(OverWritesText(0)), 255);
-    EXPECT_EQ(OverWritesColour(OverWritesText(10)), 0xFF0000);
-    EXPECT_EQ(OverWritesColour(OverWritesText(3)), 0xFF0000);
-    EXPECT_EQ(StackPictureKey(26), std::string("FULL"));
-    EXPECT_EQ(StackPictureKey(25), std::string("HALF"));
-    EXPECT_EQ(StackPictureKey(13), std::string("HALF"));
-    EXPECT_EQ(StackPictureKey(12), std::string("BACK"));
-    EXPECT_EQ(StackPictureKey(1), std::string("BACK"));
-    EXPECT_EQ(StackPictureKey(0), std::string("EMPTY"));
-    EXPECT_EQ(StackPictureKey(-3), std::string("EMPTY"));
+TEST(HandgridDeck, StackThinsAsCardsAreDrawn) {
+    const std::pair<int, const char*> steps[] = {{26, "FULL"}, {25, "HALF"}, {13, "HALF"}, {12, "BACK"},
+                                                 {1, "BACK"},  {0, "EMPTY"}, {-3, "EMPTY"}};
+    for (const auto& [left, key] : steps) EXPECT_STREQ(StackPictureKey(left), key) << left;
 }
 
-TEST(HandgridTables, CustomScoringIsAnyValueOffItsDefault) {
-    EXPECT_FALSE(IsCustomScoring(ScoringValues{}, 1));
+TEST(HandgridScoring, AnyScoringValueOffItsDefaultIsCustom) {
+    EXPECT_FALSE(IsCustomScoring(ScoringValues{}, kDefaultTimeBonus));
+    ScoringValues bonus;
+    bonus.BonusScore = 99999;
+    ScoringValues overwrites;
+    overwrites.OverWritesAllowed = 2;
+    EXPECT_TRUE(IsCustomScoring(bonus, kDefaultTimeBonus));
+    EXPECT_TRUE(IsCustomScoring(overwrites, kDefaultTimeBonus));
+    ScoringValues royal;
+    royal.HandScores[RoyalFlush] = 501;
+    EXPECT_TRUE(IsCustomScoring(royal, kDefaultTimeBonus));
     EXPECT_TRUE(IsCustomScoring(ScoringValues{}, 2));
-    ScoringValues changed;
-    changed.HandScores[RoyalFlush] = 501;
-    EXPECT_TRUE(IsCustomScoring(changed, 1));
-    changed = {};
-    changed.BonusScore = 0;
-    EXPECT_TRUE(IsCustomScoring(changed, 1));
-    changed = {};
-    changed.OverWritesAllowed = 26;
-    EXPECT_TRUE(IsCustomScoring(changed, 1));
 }
