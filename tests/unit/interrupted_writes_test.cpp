@@ -34,9 +34,9 @@ namespace {
 
 class InterruptedWrites : public ::testing::Test {
 protected:
+    // In memory where there is such a folder, so that a sync costs nothing
+    // and the kills are many and quick; a kill is a kill there too.
     void SetUp() override {
-        // In memory where there is such a folder, so that a sync costs
-        // nothing and the kills are many and quick; a kill is a kill there too.
         std::error_code ec;
         const fs::path base = fs::is_directory("/dev/shm", ec) ? fs::path("/dev/shm") : fs::temp_directory_path();
         std::string pattern = (base / "cardhaven-kill-XXXXXX").string();
@@ -55,31 +55,28 @@ protected:
         std::string text;
         return ReadWholeFile(path, text) ? text : "<missing>";
     }
-    std::vector<std::string> Temporaries() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(AppPath))
-            if (entry.path().filename().string().find(".tmp") != std::string::npos)
-                names.push_back(entry.path().filename().string());
-        return names;
+    size_t Temporaries() const {
+        return std::ranges::count_if(fs::directory_iterator(AppPath), [](const fs::directory_entry& entry) {
+            return entry.path().filename().string().find(".tmp") != std::string::npos;
+        });
     }
 
     // `write(0)` and `write(1)` put the two contents in `path`. A child
-    // alternates them until it is killed, `kills` times at seeded moments;
-    // each time the file must be one of them, whole.
-    void KillWriters(const std::string& path, const std::string (&contents)[2],
-                     const std::function<bool(int)>& write, int kills, unsigned seed) {
+    // alternates them until it is killed, 120 times at seeded moments; each
+    // time the file must be one of them, whole.
+    void KillWriters(const std::string& path, const std::string (&contents)[2], const std::function<bool(int)>& write,
+                     unsigned seed) {
         ASSERT_TRUE(write(0));
         // The moment of each kill is drawn from a range that follows the
         // child's pace: widened after a kill that came before its first write
         // was done, narrowed after one that came later, so that both kinds
-        // of kill are many, whatever this machine's speed.
+        // of kill are many, whatever this machine's speed. Under a loaded
+        // machine kills in the middle of a write may be rare: a few more
+        // rounds are made until one has come.
         std::mt19937 random(seed);
         double range = 2000;  // microseconds
-        int torn = 0, afterAWrite = 0, leftBehind = 0;
-        // Under a loaded machine kills in the middle of a write may be rare: a
-        // few more rounds are made until one has come.
-        int k = 0;
-        for (; k < kills || (leftBehind == 0 && k < 5 * kills); ++k) {
+        int torn = 0, afterAWrite = 0, leftBehind = 0, k = 0;
+        for (const int kills = 120; k < kills || (leftBehind == 0 && k < 5 * kills); ++k) {
             int ready[2];
             ASSERT_EQ(pipe(ready), 0);
             const pid_t child = fork();
@@ -93,7 +90,7 @@ protected:
             char byte;
             ASSERT_EQ(::read(ready[0], &byte, 1), 0);
             ::close(ready[0]);
-            struct stat before {};
+            struct stat before {}, after {};
             ::stat(path.c_str(), &before);
             usleep(static_cast<useconds_t>(std::uniform_real_distribution<double>(0, range)(random)));
             ::kill(child, SIGKILL);
@@ -101,16 +98,14 @@ protected:
             ASSERT_EQ(waitpid(child, &status, 0), child);
             ASSERT_TRUE(WIFSIGNALED(status));
             const std::string now = Read(path);
-            if (now != contents[0] && now != contents[1]) ++torn;
-            struct stat after {};
+            torn += now != contents[0] && now != contents[1];
             ::stat(path.c_str(), &after);
             const bool written = after.st_ino != before.st_ino;  // each write renames a new file in
             afterAWrite += written;
             // A killed writer's temporary file is cleared by the next writer:
             // they never pile up.
-            const size_t left = Temporaries().size();
-            EXPECT_LE(left, 1u);
-            leftBehind += left > 0;
+            EXPECT_LE(Temporaries(), 1u);
+            leftBehind += Temporaries() > 0;
             range = std::min(range * (written ? 0.9 : 1.1), 200000.0);
         }
         EXPECT_EQ(torn, 0) << "kills that left the file neither old nor new";
@@ -121,7 +116,7 @@ protected:
         // The next write clears every temporary file a killed writer left.
         ASSERT_TRUE(write(1));
         EXPECT_EQ(Read(path), contents[1]);
-        EXPECT_TRUE(Temporaries().empty()) << ::testing::PrintToString(Temporaries());
+        EXPECT_EQ(Temporaries(), 0u);
     }
 
     HeadlessPlatform platform;
@@ -135,20 +130,19 @@ TEST_F(InterruptedWrites, SettingsFileIsOldOrNew) {
     int which = 0;
     const SettingsLayout layout = {{"[Big]", nullptr, [&] { return values[which]; }}};
     const std::string contents[2] = {"[Big]\r\n" + values[0] + "\r\n\r\n", "[Big]\r\n" + values[1] + "\r\n\r\n"};
-    KillWriters(AppFile("\\Big.Ini"), contents,
-                [&](int i) {
-                    which = i;
-                    return WriteSettingsINI("\\Big.Ini", layout);
-                },
-                120, 5);
+    const auto write = [&](int i) {
+        which = i;
+        return WriteSettingsINI("\\Big.Ini", layout);
+    };
+    KillWriters(AppFile("\\Big.Ini"), contents, write, 5);
 }
 
 TEST_F(InterruptedWrites, HighScoreTableIsOldOrNew) {
     Form window(runtime, "frmSpirehold");
     const std::string scores[2] = {std::string(20000, '1'), std::string(9000, '2')};
     const std::string contents[2] = {DefaultHighScoreText(scores[0]) + "\r\n", DefaultHighScoreText(scores[1]) + "\r\n"};
-    KillWriters(HighScoreFileName("SpireholdHiScores"), contents,
-                [&](int i) { return CreateHighScoreFile("SpireholdHiScores", window, scores[i]); }, 120, 6);
+    const auto write = [&](int i) { return CreateHighScoreFile("SpireholdHiScores", window, scores[i]); };
+    KillWriters(HighScoreFileName("SpireholdHiScores"), contents, write, 6);
 }
 
 TEST_F(InterruptedWrites, SavedGameIsOldOrNew) {
@@ -159,8 +153,7 @@ TEST_F(InterruptedWrites, SavedGameIsOldOrNew) {
     }
     const std::string path = AppPath + "/game.sfl";
     const std::string contents[2] = {sumfall::SavedGameText(games[0]), sumfall::SavedGameText(games[1])};
-    KillWriters(path, contents, [&](int i) { return WriteFileAtomic(path, sumfall::SavedGameText(games[i])); }, 120,
-                7);
+    KillWriters(path, contents, [&](int i) { return WriteFileAtomic(path, contents[i]); }, 7);
 }
 
 // Only the temporary files of writers that are gone are cleared: another
@@ -170,13 +163,13 @@ TEST_F(InterruptedWrites, TemporariesOfLiveWritersStay) {
     ASSERT_GE(gone, 0);
     if (gone == 0) _exit(0);
     ASSERT_EQ(waitpid(gone, nullptr, 0), gone);
-    const std::string path = AppPath + "/HiScores60.Txt";
-    for (const pid_t pid : {gone, getppid()}) std::ofstream(path + ".tmp" + std::to_string(pid)) << "half";
-    std::ofstream(AppPath + "/Other.Txt.tmp" + std::to_string(gone)) << "someone else's";
+    const std::string path = AppPath + "/HiScores60.Txt", ofGone = ".tmp" + std::to_string(gone);
+    const std::string ofLive = path + ".tmp" + std::to_string(getppid());
+    for (const std::string& name : {path + ofGone, ofLive, AppPath + "/Other.Txt" + ofGone}) std::ofstream(name) << "half";
     ASSERT_TRUE(WriteFileAtomic(path, "new"));
-    EXPECT_FALSE(fs::exists(path + ".tmp" + std::to_string(gone)));
-    EXPECT_TRUE(fs::exists(path + ".tmp" + std::to_string(getppid())));
-    EXPECT_TRUE(fs::exists(AppPath + "/Other.Txt.tmp" + std::to_string(gone)));
+    EXPECT_FALSE(fs::exists(path + ofGone));
+    EXPECT_TRUE(fs::exists(ofLive));
+    EXPECT_TRUE(fs::exists(AppPath + "/Other.Txt" + ofGone));
 }
 
 // A write that fails at any step keeps the old file and leaves nothing beside
@@ -189,7 +182,7 @@ TEST_F(InterruptedWrites, FailedWritesKeepTheOldFileAndReadsTellMissingFromUnrea
         EXPECT_FALSE(WriteFileAtomic(path, std::string(100000, 'n')));
         ClearFileFaults();
         EXPECT_EQ(Read(path), "old");
-        EXPECT_TRUE(Temporaries().empty());
+        EXPECT_EQ(Temporaries(), 0u);
     }
     // A replaced file keeps its mode.
     fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
@@ -199,25 +192,26 @@ TEST_F(InterruptedWrites, FailedWritesKeepTheOldFileAndReadsTellMissingFromUnrea
     EXPECT_FALSE(WriteFileAtomic(AppPath + "/Folder.Ini", "new"));
     EXPECT_TRUE(fs::is_directory(AppPath + "/Folder.Ini"));
 
-    struct Case {
-        std::string path;
-        ReadOutcome outcome;
-    };
     SetFileFault(FileFault::Unreadable, AppPath + "/Locked");
     std::ofstream(AppPath + "/Locked.Txt") << "x";
     ASSERT_EQ(mkfifo((AppPath + "/Pipe.Ini").c_str(), 0600), 0);  // no writer: opening it must not wait
     std::ofstream(AppPath + "/Huge.Txt");
     fs::resize_file(AppPath + "/Huge.Txt", 1ull << 32);  // sparse: 4 GB on no disk at all
-    for (const Case& c : {Case{path, ReadOutcome::Read}, Case{AppPath + "/None.Ini", ReadOutcome::Missing},
-                          Case{path + "/below", ReadOutcome::Missing}, Case{AppPath + "/Folder.Ini", ReadOutcome::Unreadable},
-                          Case{AppPath + "/Locked.Txt", ReadOutcome::Unreadable},
-                          Case{AppPath + "/Locked.Gone", ReadOutcome::Missing},
-                          Case{AppPath + "/Pipe.Ini", ReadOutcome::Unreadable},
-                          Case{AppPath + "/Huge.Txt", ReadOutcome::Unreadable}}) {
+    const std::pair<std::string, ReadOutcome> cases[] = {
+        {path, ReadOutcome::Read},
+        {AppPath + "/None.Ini", ReadOutcome::Missing},
+        {path + "/below", ReadOutcome::Missing},
+        {AppPath + "/Folder.Ini", ReadOutcome::Unreadable},
+        {AppPath + "/Locked.Txt", ReadOutcome::Unreadable},
+        {AppPath + "/Locked.Gone", ReadOutcome::Missing},
+        {AppPath + "/Pipe.Ini", ReadOutcome::Unreadable},
+        {AppPath + "/Huge.Txt", ReadOutcome::Unreadable},
+    };
+    for (const auto& [name, expected] : cases) {
         std::string text = "kept";
         ReadOutcome outcome = ReadOutcome::Read;
-        EXPECT_EQ(ReadWholeFile(c.path, text, &outcome), c.outcome == ReadOutcome::Read) << c.path;
-        EXPECT_EQ(outcome, c.outcome) << c.path;
-        EXPECT_EQ(text, c.outcome == ReadOutcome::Read ? "old" : "kept") << c.path;
+        EXPECT_EQ(ReadWholeFile(name, text, &outcome), expected == ReadOutcome::Read) << name;
+        EXPECT_EQ(outcome, expected) << name;
+        EXPECT_EQ(text, expected == ReadOutcome::Read ? "old" : "kept") << name;
     }
 }
