@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -64,15 +65,13 @@ protected:
     // `write(0)` and `write(1)` put the two contents in `path`. A child
     // alternates them until it is killed, 120 times at seeded moments; each
     // time the file must be one of them, whole.
-    void KillWriters(const std::string& path, const std::string (&contents)[2], const std::function<bool(int)>& write,
+    void KillWriters(const std::string& path, const std::array<std::string, 2>& contents, const std::function<bool(int)>& write,
                      unsigned seed) {
         ASSERT_TRUE(write(0));
-        // The moment of each kill is drawn from a range that follows the
-        // child's pace: widened after a kill that came before its first write
-        // was done, narrowed after one that came later, so that both kinds
-        // of kill are many, whatever this machine's speed. Under a loaded
-        // machine kills in the middle of a write may be rare: a few more
-        // rounds are made until one has come.
+        // Each kill's moment is drawn from a range that follows the child's
+        // pace (widened after a kill before its first write was done, narrowed
+        // after a later one), so that both kinds of kill are many; on a loaded
+        // machine more rounds are made until one has come mid-write.
         std::mt19937 random(seed);
         double range = 2000;  // microseconds
         int torn = 0, afterAWrite = 0, leftBehind = 0, k = 0;
@@ -125,35 +124,29 @@ protected:
 
 }  // namespace
 
-TEST_F(InterruptedWrites, SettingsFileIsOldOrNew) {
+// A settings file, a high score table and a saved game, each of two sizes.
+TEST_F(InterruptedWrites, KilledWritersLeaveTheOldFileOrTheNew) {
     const std::string values[2] = {std::string(200000, 'a'), std::string(150000, 'b')};
-    int which = 0;
-    const SettingsLayout layout = {{"[Big]", nullptr, [&] { return values[which]; }}};
-    const std::string contents[2] = {"[Big]\r\n" + values[0] + "\r\n\r\n", "[Big]\r\n" + values[1] + "\r\n\r\n"};
-    const auto write = [&](int i) {
-        which = i;
-        return WriteSettingsINI("\\Big.Ini", layout);
+    const auto writeSettings = [&](int i) {
+        return WriteSettingsINI("\\Big.Ini", {{"[Big]", nullptr, [&] { return values[i]; }}});
     };
-    KillWriters(AppFile("\\Big.Ini"), contents, write, 5);
-}
+    KillWriters(AppFile("\\Big.Ini"), {"[Big]\r\n" + values[0] + "\r\n\r\n", "[Big]\r\n" + values[1] + "\r\n\r\n"},
+                writeSettings, 5);
 
-TEST_F(InterruptedWrites, HighScoreTableIsOldOrNew) {
     Form window(runtime, "frmSpirehold");
     const std::string scores[2] = {std::string(20000, '1'), std::string(9000, '2')};
-    const std::string contents[2] = {DefaultHighScoreText(scores[0]) + "\r\n", DefaultHighScoreText(scores[1]) + "\r\n"};
-    const auto write = [&](int i) { return CreateHighScoreFile("SpireholdHiScores", window, scores[i]); };
-    KillWriters(HighScoreFileName("SpireholdHiScores"), contents, write, 6);
-}
+    KillWriters(HighScoreFileName("SpireholdHiScores"),
+                {DefaultHighScoreText(scores[0]) + "\r\n", DefaultHighScoreText(scores[1]) + "\r\n"},
+                [&](int i) { return CreateHighScoreFile("SpireholdHiScores", window, scores[i]); }, 6);
 
-TEST_F(InterruptedWrites, SavedGameIsOldOrNew) {
     sumfall::SavedGame games[2];
     for (int i = 0; i < 2; ++i) {
         games[i].userName = std::string(100000 + 50000 * i, i ? 'B' : 'A');
         games[i].round1.assign(53, i ? "7H" : "10S");
     }
     const std::string path = AppPath + "/game.sfl";
-    const std::string contents[2] = {sumfall::SavedGameText(games[0]), sumfall::SavedGameText(games[1])};
-    KillWriters(path, contents, [&](int i) { return WriteFileAtomic(path, contents[i]); }, 7);
+    const std::array<std::string, 2> saved = {sumfall::SavedGameText(games[0]), sumfall::SavedGameText(games[1])};
+    KillWriters(path, saved, [&](int i) { return WriteFileAtomic(path, saved[i]); }, 7);
 }
 
 // Only the temporary files of writers that are gone are cleared: another
