@@ -99,6 +99,15 @@ public:
         });
     }
 
+    static Step Input(InputKind kind, const std::string& form, const std::string& control,
+                      const std::string& text = "") {
+        Step step{Step::Kind::Input, {}, 0};
+        step.event.kind = kind;
+        step.event.form = form;
+        step.event.control = control;
+        step.event.text = text;
+        return step;
+    }
     void then(std::function<void()> check) {
         plan_.emplace_back([check] {
             check();
@@ -108,12 +117,7 @@ public:
     // An input, made only if `when` holds at that moment.
     void input(InputKind kind, const std::string& form, const std::string& control, const std::string& text = "",
                When when = Always) {
-        Step step{Step::Kind::Input, {}, 0};
-        step.event.kind = kind;
-        step.event.form = form;
-        step.event.control = control;
-        step.event.text = text;
-        plan_.emplace_back([step, when, done = false]() mutable {
+        plan_.emplace_back([step = Input(kind, form, control, text), when, done = false]() mutable {
             return std::exchange(done, true) || !when() ? std::nullopt : std::optional<Step>(step);
         });
     }
@@ -196,12 +200,8 @@ public:
 private:
     Step next() {
         for (const char* modal : {"frmHiScoreName", "frmHighScores"})
-            if (Form* f = runtime_.loaded(modal); f && f->modal()) {
-                Step step{Step::Kind::Input, {}, 0};
-                step.event.form = modal;
-                step.event.control = std::string(modal) == "frmHiScoreName" ? "cmdOK" : "cmdDone";
-                return step;
-            }
+            if (Form* f = runtime_.loaded(modal); f && f->modal())
+                return Input(InputKind::Click, modal, modal == std::string("frmHiScoreName") ? "cmdOK" : "cmdDone");
         for (; !plan_.empty(); plan_.pop_front())
             if (const std::optional<Step> step = plan_.front()()) return *step;
         return Step{};  // the end: quit
@@ -234,13 +234,9 @@ std::vector<std::string> Lines(const std::string& text) {
 
 bool Numeric(const std::string& s) { return !s.empty() && s.find_first_not_of("-0123456789") == std::string::npos; }
 
-std::string WithLineEnds(const std::string& text, const std::string& end) {
-    std::string out;
-    for (size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
-        out += text[i] == '\n' ? end : std::string(1, text[i]);
-    }
-    return out;
+std::string WithLineEnds(std::string text, const std::string& end) {
+    for (size_t at = 0; (at = text.find("\r\n", at)) != std::string::npos; at += end.size()) text.replace(at, 2, end);
+    return text;
 }
 
 // Every number standing alone on a line, or after the ", " of a table's
@@ -252,7 +248,8 @@ std::string WithNumbers(const std::string& text, const std::string& number) {
         const std::string end = line.substr(body);
         line.resize(body);
         if (Numeric(line)) line = number;
-        else if (comma != std::string::npos && Numeric(line.substr(comma + 2))) line = line.substr(0, comma + 2) + number;
+        else if (comma != std::string::npos && Numeric(line.substr(comma + 2)))
+            line.replace(comma + 2, std::string::npos, number);
         out += line + end;
     }
     return out;
@@ -352,13 +349,11 @@ protected:
         ASSERT_EQ(table, DefaultHighScoreText(ParseHighScoreText(table).front().score) + "\r\n");
     }
 
-    // Each damaged file in turn in the place of the settings (`kind`
-    // Settings or EdgeValues) or of the table: the window opens, plays and
-    // closes with no message but the close question (and, for edge values,
-    // the platform's overflow for a score carried past its range); what it
-    // writes on closing is a whole settings file again. Corpus files play a
-    // game to its end now and then; edge values a game whose rounds are all
-    // taken at once, so that each bonus is paid with the seconds left.
+    // Each damaged file in turn in the place of the settings or of the table:
+    // the window opens, plays and closes with no message but the close
+    // question (and, for edge values, the platform's overflow for a score
+    // carried past its range); what it writes on closing is a whole settings
+    // file again. Corpus files play a game to its end now and then.
     enum class Kind { Settings, EdgeValues, Table };
     void OpenEach(const std::string& valid, Kind kind) {
         const Game& g = GetParam();
@@ -457,13 +452,7 @@ TEST_P(DamagedFiles, UnreadableFilesAndAReadOnlyHomeAreLeftAsTheyWere) {
     quiet.replace(at, 19, "[Play Sounds]\r\nFalse");
     const std::string mine = "Mine, 123456\r\n\r\n", fresh = g.label + std::string(g.top);
     const fs::path ini = home / g.settings, file = home / g.table;
-    struct Case {
-        std::string ini, table;
-        FileFault fault;
-        fs::path faulty;
-        std::string label;
-        bool told;
-    };
+    struct Case { std::string ini, table; FileFault fault; fs::path faulty; std::string label; bool told; };
     const Case cases[] = {
         {quiet, table, FileFault::Unreadable, ini, fresh, false},
         {"<folder>", table, FileFault::Unreadable, "", fresh, false},

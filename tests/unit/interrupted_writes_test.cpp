@@ -65,7 +65,8 @@ protected:
     // `write(0)` and `write(1)` put the two contents in `path`. A child
     // alternates them until it is killed, 120 times at seeded moments; each
     // time the file must be one of them, whole.
-    void KillWriters(const std::string& path, const std::array<std::string, 2>& contents, const std::function<bool(int)>& write,
+    using Contents = std::array<std::string, 2>;
+    void KillWriters(const std::string& path, const Contents& contents, const std::function<bool(int)>& write,
                      unsigned seed) {
         ASSERT_TRUE(write(0));
         // Each kill's moment is drawn from a range that follows the child's
@@ -145,7 +146,7 @@ TEST_F(InterruptedWrites, KilledWritersLeaveTheOldFileOrTheNew) {
         games[i].round1.assign(53, i ? "7H" : "10S");
     }
     const std::string path = AppPath + "/game.sfl";
-    const std::array<std::string, 2> saved = {sumfall::SavedGameText(games[0]), sumfall::SavedGameText(games[1])};
+    const Contents saved = {sumfall::SavedGameText(games[0]), sumfall::SavedGameText(games[1])};
     KillWriters(path, saved, [&](int i) { return WriteFileAtomic(path, saved[i]); }, 7);
 }
 
@@ -158,7 +159,8 @@ TEST_F(InterruptedWrites, TemporariesOfLiveWritersStay) {
     ASSERT_EQ(waitpid(gone, nullptr, 0), gone);
     const std::string path = AppPath + "/HiScores60.Txt", ofGone = ".tmp" + std::to_string(gone);
     const std::string ofLive = path + ".tmp" + std::to_string(getppid());
-    for (const std::string& name : {path + ofGone, ofLive, AppPath + "/Other.Txt" + ofGone}) std::ofstream(name) << "half";
+    for (const std::string& name : {path + ofGone, ofLive, AppPath + "/Other.Txt" + ofGone})
+        std::ofstream(name) << "half";
     ASSERT_TRUE(WriteFileAtomic(path, "new"));
     EXPECT_FALSE(fs::exists(path + ofGone));
     EXPECT_TRUE(fs::exists(ofLive));
@@ -191,13 +193,10 @@ TEST_F(InterruptedWrites, FailedWritesKeepTheOldFileAndReadsTellMissingFromUnrea
     std::ofstream(AppPath + "/Huge.Txt");
     fs::resize_file(AppPath + "/Huge.Txt", 1ull << 32);  // sparse: 4 GB on no disk at all
     const std::pair<std::string, ReadOutcome> cases[] = {
-        {path, ReadOutcome::Read},
-        {AppPath + "/None.Ini", ReadOutcome::Missing},
-        {path + "/below", ReadOutcome::Missing},
-        {AppPath + "/Folder.Ini", ReadOutcome::Unreadable},
+        {path, ReadOutcome::Read}, {AppPath + "/None.Ini", ReadOutcome::Missing},
+        {path + "/below", ReadOutcome::Missing}, {AppPath + "/Folder.Ini", ReadOutcome::Unreadable},
         {AppPath + "/Locked.Txt", ReadOutcome::Unreadable},
-        {AppPath + "/Locked.Gone", ReadOutcome::Missing},
-        {AppPath + "/Pipe.Ini", ReadOutcome::Unreadable},
+        {AppPath + "/Locked.Gone", ReadOutcome::Missing}, {AppPath + "/Pipe.Ini", ReadOutcome::Unreadable},
         {AppPath + "/Huge.Txt", ReadOutcome::Unreadable},
     };
     for (const auto& [name, expected] : cases) {
