@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Damaged, unreadable and missing files under every game window: a corpus
-// made from the files the game itself writes (cut at every byte, LF line
-// ends, random bytes, 10 MB, a 1 MB line, numbers beyond 32 bits and below
-// zero) and the disk's faults (a folder in the file's place, a file that can't
-// be read, a home folder that can't be written), and each numeric section of
-// a settings file at the edges of the 16- and 32-bit types. Each window must
-// open, play and close; a file it could not read is never written over.
+// Damaged, unreadable and missing files under every game window: a corpus made
+// from the files the game writes (cut at every byte, other line ends, random
+// bytes, 10 MB, a 1 MB line, numbers beyond 32 bits and below zero), the disk's
+// faults, and each numeric setting at the edges of the 16- and 32-bit types.
+// Each window opens, plays and closes; a file it could not read is never
+// written over.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -523,11 +522,8 @@ TEST_F(DamagedSavedGames, AreRefusedOrReplayed) {
     const size_t lastCard = valid.rfind("\r\n", valid.find("[Round 2 Deck]") - 3) + 2;
 
     std::vector<Damage> corpus = Corpus(valid, 22);
-    corpus.push_back({"whole", valid});
-    corpus.push_back({"no last line end", valid.substr(0, valid.size() - 2)});
-    corpus.push_back({"a folder", "<folder>"});
-    corpus.push_back({"unreadable", valid});
-    corpus.push_back({"missing", "<none>"});
+    corpus.insert(corpus.end(), {{"whole", valid}, {"no last line end", valid.substr(0, valid.size() - 2)},
+                                 {"a folder", "<folder>"}, {"unreadable", valid}, {"missing", "<none>"}});
     const fs::path file = home / "game.sfl";
     Session s(home);
     s.allowedUnanswered = {"Unknown Error! Unable to play Sumfall!", "Giving up so soon?",

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Writers killed at random moments: a child process writes a settings file, a
-// high score table or a saved game over and over, alternating two contents,
-// and is killed with SIGKILL. The file is then the one content or the other,
-// whole; what a killed writer leaves beside it is cleared by the next write.
-// And writes that fail on a full disk, a read-only folder or a failed sync.
+// Writers killed with SIGKILL at random moments leave the file old or new,
+// whole, and what they leave beside it is cleared by the next write; writes
+// that fail on a full disk, a read-only folder or a failed sync keep the old.
 #include <gtest/gtest.h>
 
 #include <algorithm>
