@@ -102,7 +102,6 @@ public:
 
         ExposeVariables({
             {"CurrentRound", Expose(CurrentRound)},
-            {"HitCount", Expose(HitCount)},
             {"HitBonus", Expose(HitBonus)},
             {"SplashPosition", Expose(Splash.SplashPosition)},
             {"SplashForward", Expose(Splash.SplashForward)},
