@@ -93,7 +93,7 @@ TEST(Renderer, TwipsBecomePixelsAtFifteenToOne) {
         EXPECT_EQ(Px(twips), pixels) << twips;
 }
 
-TEST(Renderer, AFormsOuterSizeCountsItsFrameTitleAndMenu) {
+TEST(Renderer, AFormsOuterSizeCountsItsFrameTitleAndMenuAndControlsSitInIt) {
     Shown probe = Probe();
     QWidget* window = probe.window();
     EXPECT_EQ(window->windowTitle(), QString());
@@ -103,10 +103,8 @@ TEST(Renderer, AFormsOuterSizeCountsItsFrameTitleAndMenu) {
     // menu is 628 wide and 480 - 8 - 19 - 19 high.
     EXPECT_EQ(window->width(), 628);
     EXPECT_EQ(window->height() - menu->sizeHint().height(), 434);
-}
 
-TEST(Renderer, ControlsAppearWhereTheModelPutsThem) {
-    Shown probe = Probe();
+    // Controls appear where the model puts them, and only when it shows them.
     QPushButton* inside = probe.find<QPushButton>("&Inside");
     ASSERT_NE(inside, nullptr);
     EXPECT_EQ(inside->geometry(), QRect(10, 20, 80, 25)) << "relative to its frame";

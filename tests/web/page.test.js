@@ -84,7 +84,8 @@ describe('the suite in the page', () => {
     await page.goto(`${server.url}?test`);
     await page.waitForSelector(sel('frmSelect'), {visible: true, timeout: 20000});
     assert.equal(await page.$eval(`${sel('frmSelect')} .caption`, (e) => e.textContent), "Quillmark's Card Haven");
-    assert.equal(await page.$eval(`${sel('frmSelect.frmGameChoice')} .legend`, (e) => e.textContent), 'Select your game');
+    assert.equal(await page.$eval(`${sel('frmSelect.frmGameChoice')} .legend`, (e) => e.textContent),
+      'Select your game');
     for (const [button] of DEALS) await page.waitForSelector(sel(`frmSelect.${button}`), {visible: true});
     // Sound waits for the first gesture: nothing has played yet.
     const played = await page.evaluate(() => window.cardhaven.audio.requests.filter((r) => r.unlocked).length);
