@@ -4,13 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QCloseEvent>
 #include <QMouseEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QMenuBar>
 #include <QPushButton>
+#include <functional>
 #include <thread>
 #include <vector>
 
@@ -25,10 +24,47 @@
 namespace ch {
 namespace {
 
+// One window, built by `build`, shown through a renderer that keeps what it sends.
+struct Shown {
+    HeadlessPlatform headless;
+    Runtime runtime{headless};
+    SnapshotTaker taker;
+    std::vector<InputEvent> sent;
+    Renderer renderer{[this](const InputEvent& e) { sent.push_back(e); }};
+    std::string name;
+
+    // Without `build` the window is one that something else shows.
+    explicit Shown(const char* formName, std::function<void(Form&)> build = nullptr) : name(formName) {
+        if (!build) return;
+        runtime.registerForm(name, [this, build](Runtime& rt) {
+            auto form = std::make_unique<Form>(rt, name);
+            build(*form);
+            return form;
+        });
+        runtime.show(name);
+        apply();
+    }
+    void apply() { renderer.apply(taker.take(runtime)); }
+    Form& form() { return *runtime.loaded(name); }
+    QWidget* window() { return renderer.visibleWindows().at(name); }
+    template <typename T>
+    T* find(const QString& text) {
+        for (T* w : window()->findChildren<T*>())
+            if (w->text() == text) return w;
+        return nullptr;
+    }
+    // Presses the left button on `widget` (or lets it go) as the mouse does.
+    static void Mouse(QWidget* widget, QEvent::Type type) {
+        const QPointF at(5, 5);
+        QMouseEvent e(type, at, widget->mapToGlobal(at), Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(widget, &e);
+    }
+};
+
 // A small window with a menu, a frame, buttons and a status bar.
-class frmProbe : public Form {
-public:
-    explicit frmProbe(Runtime& rt) : Form(rt, "frmProbe") {
+Shown Probe() {
+    return Shown("frmProbe", [](Form& f) {
         static const ControlSpec kLayout[] = {
             {ControlKind::Menu, "mnuFile", -1, 0, 0, 0, 0, "&File"},
             {ControlKind::Menu, "mnuPlay", -1, 0, 0, 0, 0, "&Play", "mnuFile"},
@@ -41,51 +77,25 @@ public:
             {ControlKind::Label, "lblText", -1, 150, 2000, 3000, 300, "Hello"},
             {ControlKind::StatusBar, "StatusBar1", -1, 0, 0, 0, 375},
         };
-        add(kLayout);
-        setSize(9540, 7200);
-        c("cmdHidden").setVisible(false);
-        c("mnuTime30").setChecked(true);
-        c("mnuPlay").setEnabled(false);
-        c("StatusBar1").setPanel(1, "Welcome");
-    }
-};
-
-struct Probe {
-    HeadlessPlatform headless;
-    Runtime runtime{headless};
-    SnapshotTaker taker;
-    std::vector<InputEvent> sent;
-    Renderer renderer{[this](const InputEvent& e) { sent.push_back(e); }};
-
-    Probe() {
-        runtime.registerForm("frmProbe", [](Runtime& rt) { return std::make_unique<frmProbe>(rt); });
-        runtime.show("frmProbe");
-        renderer.apply(taker.take(runtime));
-    }
-    QWidget* window() { return renderer.visibleWindows().at("frmProbe"); }
-    template <typename T>
-    T* find(const QString& text) {
-        for (T* w : window()->findChildren<T*>())
-            if (w->text() == text) return w;
-        return nullptr;
-    }
-};
+        f.add(kLayout);
+        f.setSize(9540, 7200);
+        f.c("cmdHidden").setVisible(false);
+        f.c("mnuTime30").setChecked(true);
+        f.c("mnuPlay").setEnabled(false);
+        f.c("StatusBar1").setPanel(1, "Welcome");
+    });
+}
 
 }  // namespace
 
 TEST(Renderer, TwipsBecomePixelsAtFifteenToOne) {
-    EXPECT_EQ(Px(0), 0);
-    EXPECT_EQ(Px(15), 1);
-    EXPECT_EQ(Px(1065), 71);
-    EXPECT_EQ(Px(22), 1);
-    EXPECT_EQ(Px(23), 2);
-    EXPECT_EQ(Px(-15), -1);
+    for (const auto& [twips, pixels] : {std::pair{0, 0}, {15, 1}, {1065, 71}, {22, 1}, {23, 2}, {-15, -1}})
+        EXPECT_EQ(Px(twips), pixels) << twips;
 }
 
-TEST(Renderer, AFormsOuterSizeCountsItsFrameTitleAndMenu) {
-    Probe probe;
+TEST(Renderer, AFormsOuterSizeCountsItsFrameTitleAndMenuAndControlsSitInIt) {
+    Shown probe = Probe();
     QWidget* window = probe.window();
-    ASSERT_NE(window, nullptr);
     EXPECT_EQ(window->windowTitle(), QString());
     QMenuBar* menu = window->findChild<QMenuBar*>();
     ASSERT_NE(menu, nullptr);
@@ -93,10 +103,8 @@ TEST(Renderer, AFormsOuterSizeCountsItsFrameTitleAndMenu) {
     // menu is 628 wide and 480 - 8 - 19 - 19 high.
     EXPECT_EQ(window->width(), 628);
     EXPECT_EQ(window->height() - menu->sizeHint().height(), 434);
-}
 
-TEST(Renderer, ControlsAppearWhereTheModelPutsThem) {
-    Probe probe;
+    // Controls appear where the model puts them, and only when it shows them.
     QPushButton* inside = probe.find<QPushButton>("&Inside");
     ASSERT_NE(inside, nullptr);
     EXPECT_EQ(inside->geometry(), QRect(10, 20, 80, 25)) << "relative to its frame";
@@ -107,7 +115,7 @@ TEST(Renderer, ControlsAppearWhereTheModelPutsThem) {
 }
 
 TEST(Renderer, MenusCarryCaptionsTicksAndEnabledState) {
-    Probe probe;
+    Shown probe = Probe();
     QMenuBar* bar = probe.window()->findChild<QMenuBar*>();
     ASSERT_NE(bar, nullptr);
     ASSERT_EQ(bar->actions().size(), 1);
@@ -125,9 +133,9 @@ TEST(Renderer, MenusCarryCaptionsTicksAndEnabledState) {
     EXPECT_TRUE(thirty->isChecked());
 
     // A changed model updates the same menu.
-    probe.runtime.loaded("frmProbe")->c("mnuTime30").setChecked(false);
-    probe.runtime.loaded("frmProbe")->c("mnuPlay").setEnabled(true);
-    probe.renderer.apply(probe.taker.take(probe.runtime));
+    probe.form().c("mnuTime30").setChecked(false);
+    probe.form().c("mnuPlay").setEnabled(true);
+    probe.apply();
     EXPECT_FALSE(thirty->isChecked());
     EXPECT_TRUE(entries[0]->isEnabled());
 
@@ -139,58 +147,49 @@ TEST(Renderer, MenusCarryCaptionsTicksAndEnabledState) {
     EXPECT_FALSE(thirty->isChecked());
 }
 
-TEST(Renderer, ClicksAndClosingGoToTheLogicWhichDecides) {
-    Probe probe;
+// Clicks and closing go to the logic, which decides; a form it unloads and
+// shows again gets a fresh window.
+TEST(Renderer, ClicksAndClosingGoToTheLogicAndAReloadedFormGetsAFreshWindow) {
+    Shown probe = Probe();
     probe.find<QPushButton>("&Inside")->click();
     ASSERT_EQ(probe.sent.size(), 1u);
     EXPECT_EQ(probe.sent[0].form, "frmProbe");
     EXPECT_EQ(probe.sent[0].control, "cmdInside");
     EXPECT_EQ(probe.sent[0].index, -1);
 
-    QWidget* window = probe.window();
+    QPointer<QWidget> window = probe.window();
     window->close();
     ASSERT_EQ(probe.sent.size(), 2u);
     EXPECT_EQ(probe.sent[1].kind, InputKind::Close);
     EXPECT_TRUE(window->isVisible()) << "the window stays until the logic unloads it";
 
-    probe.runtime.unload(*probe.runtime.loaded("frmProbe"));
-    probe.renderer.apply(probe.taker.take(probe.runtime));
+    probe.runtime.unload(probe.form());
+    probe.apply();
     EXPECT_TRUE(probe.renderer.visibleWindows().empty());
-}
-
-TEST(Renderer, AReloadedFormGetsAFreshWindow) {
-    Probe probe;
-    QPointer<QWidget> first = probe.window();
-    probe.runtime.unload(*probe.runtime.loaded("frmProbe"));
     probe.runtime.show("frmProbe");
-    probe.renderer.apply(probe.taker.take(probe.runtime));
-    EXPECT_TRUE(first.isNull());
+    probe.apply();
+    EXPECT_TRUE(window.isNull());
     EXPECT_NE(probe.renderer.visibleWindows().count("frmProbe"), 0u);
 }
 
 TEST(Renderer, TheSelectorShowsOnlyTheGamesOfThisBuild) {
-    HeadlessPlatform headless;
-    Runtime runtime(headless);
+    Shown suite("frmSelect");
     SuiteOptions options;
     options.appPath = "/nonexistent";
-    StartSuite(runtime, options);
-    SnapshotTaker taker;
-    std::vector<InputEvent> sent;
-    Renderer renderer([&sent](const InputEvent& e) { sent.push_back(e); });
-    renderer.apply(taker.take(runtime));
-    QWidget* window = renderer.visibleWindows().at("frmSelect");
+    StartSuite(suite.runtime, options);
+    suite.apply();
+    QWidget* window = suite.window();
     EXPECT_EQ(window->windowTitle(), "Quillmark's Card Haven");
     for (QPushButton* button : window->findChildren<QPushButton*>()) {
-        const bool isGame = button->text() == "&Sumfall!" || button->text() == "&Blackrush";
-        if (isGame) {
+        if (button->text() == "&Sumfall!" || button->text() == "&Blackrush") {
             const char* name = button->text() == "&Sumfall!" ? "cmdSumfall" : "cmdBlackrush";
-            EXPECT_EQ(button->isVisible(), runtime.loaded("frmSelect")->c(name).visible());
+            EXPECT_EQ(button->isVisible(), suite.form().c(name).visible());
         }
         if (button->text() == "&Close") {
             EXPECT_TRUE(button->isVisible());
             button->click();
-            ASSERT_FALSE(sent.empty());
-            EXPECT_EQ(sent.back().control, "cmdClose");
+            ASSERT_FALSE(suite.sent.empty());
+            EXPECT_EQ(suite.sent.back().control, "cmdClose");
         }
     }
 }
@@ -198,23 +197,13 @@ TEST(Renderer, TheSelectorShowsOnlyTheGamesOfThisBuild) {
 // The dial's pies are in screen degrees, clockwise from start to end: the
 // first quarter of a round fills the top right of the dial.
 TEST(Renderer, APieFromTwelveToThreeOclockFillsTheTopRightQuarter) {
-    HeadlessPlatform headless;
-    Runtime runtime(headless);
-    runtime.registerForm("frmDial", [](Runtime& rt) {
-        auto form = std::make_unique<Form>(rt, "frmDial");
+    Shown dial("frmDial", [](Form& f) {
         static const ControlSpec kLayout[] = {{ControlKind::PictureBox, "Surface", -1, 150, 150, 1500, 1500}};
-        form->add(kLayout);
-        Control& surface = form->c("Surface");
-        surface.setBackColor(0);
-        surface.drawPie(750, 750, 600, -90, 0, 0x00FF00, 0x00FF00);
-        return form;
+        f.add(kLayout);
+        f.c("Surface").setBackColor(0);
+        f.c("Surface").drawPie(750, 750, 600, -90, 0, 0x00FF00, 0x00FF00);
     });
-    runtime.show("frmDial");
-    SnapshotTaker taker;
-    Renderer renderer([](const InputEvent&) {});
-    renderer.apply(taker.take(runtime));
-    QWidget* window = renderer.visibleWindows().at("frmDial");
-    const QImage image = window->grab().toImage();
+    const QImage image = dial.window()->grab().toImage();
     // The surface's centre lies at 10 + 50 pixels; look 20 pixels out.
     auto green = [&](int dx, int dy) { return image.pixelColor(60 + dx, 60 + dy).green() > 200; };
     EXPECT_TRUE(green(20, -20)) << "top right";
@@ -226,172 +215,143 @@ TEST(Renderer, APieFromTwelveToThreeOclockFillsTheTopRightQuarter) {
 // A tall text box shows its lines, a short one is a line to type into whose
 // edits go to the logic.
 TEST(Renderer, TextBoxesTallAndShort) {
-    HeadlessPlatform headless;
-    Runtime runtime(headless);
-    runtime.registerForm("frmText", [](Runtime& rt) {
-        auto form = std::make_unique<Form>(rt, "frmText");
+    Shown text("frmText", [](Form& f) {
         static const ControlSpec kLayout[] = {
             {ControlKind::TextBox, "txtRules", -1, 150, 150, 4000, 3000, "First\r\nSecond"},
             {ControlKind::TextBox, "txtName", -1, 150, 3300, 2000, 300, "Ann"},
         };
-        form->add(kLayout);
-        return form;
+        f.add(kLayout);
     });
-    runtime.show("frmText");
-    SnapshotTaker taker;
-    std::vector<InputEvent> sent;
-    Renderer renderer([&sent](const InputEvent& e) { sent.push_back(e); });
-    renderer.apply(taker.take(runtime));
-    QWidget* window = renderer.visibleWindows().at("frmText");
-    auto* rules = window->findChild<QPlainTextEdit*>();
+    auto* rules = text.window()->findChild<QPlainTextEdit*>();
     ASSERT_NE(rules, nullptr);
     EXPECT_EQ(rules->toPlainText(), "First\nSecond");
-    auto* name = window->findChild<QLineEdit*>();
+    auto* name = text.window()->findChild<QLineEdit*>();
     ASSERT_NE(name, nullptr);
     EXPECT_EQ(name->text(), "Ann");
     name->setFocus();
     name->end(false);
     name->insert("a");  // as typed: textEdited follows
     Q_EMIT name->textEdited(name->text());
-    ASSERT_FALSE(sent.empty());
-    EXPECT_EQ(sent.back().kind, InputKind::SetText);
-    EXPECT_EQ(sent.back().text, "Anna");
+    ASSERT_FALSE(text.sent.empty());
+    EXPECT_EQ(text.sent.back().kind, InputKind::SetText);
+    EXPECT_EQ(text.sent.back().text, "Anna");
     // A snapshot taken before the logic saw the edit does not undo it.
-    Control& model = runtime.loaded("frmText")->c("txtName");
+    Control& model = text.form().c("txtName");
     model.setToolTipText("Your name");
-    renderer.apply(taker.take(runtime));
+    text.apply();
     EXPECT_EQ(name->text(), "Anna");
-    runtime.dispatch(sent.back());
-    renderer.apply(taker.take(runtime));
+    text.runtime.dispatch(text.sent.back());
+    text.apply();
     EXPECT_EQ(name->text(), "Anna");
     // Then the logic's own text shows.
     model.setText("Bob");
-    renderer.apply(taker.take(runtime));
+    text.apply();
     EXPECT_EQ(name->text(), "Bob");
 
     // A selection the logic makes shows, and shows again after the player
     // moved the cursor, even when it is the same selection.
     model.selectAll();
-    renderer.apply(taker.take(runtime));
+    text.apply();
     EXPECT_EQ(name->selectedText(), "Bob");
     name->deselect();
     model.selectAll();
-    renderer.apply(taker.take(runtime));
+    text.apply();
     EXPECT_EQ(name->selectedText(), "Bob");
     // A click in the box goes to the logic.
-    sent.clear();
-    const QPointF at(5, 5);
-    QMouseEvent press(QEvent::MouseButtonPress, at, name->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
-    QApplication::sendEvent(name, &press);
-    ASSERT_FALSE(sent.empty());
-    EXPECT_EQ(sent.back().kind, InputKind::Click);
-    EXPECT_EQ(sent.back().control, "txtName");
+    text.sent.clear();
+    Shown::Mouse(name, QEvent::MouseButtonPress);
+    ASSERT_FALSE(text.sent.empty());
+    EXPECT_EQ(text.sent.back().kind, InputKind::Click);
+    EXPECT_EQ(text.sent.back().control, "txtName");
 }
 
 // A mouse double click on a card: its first click goes out at once, and the
 // double click then tells the logic that the first half was sent already.
 TEST(Renderer, ADoubleClickOnACardSendsAClickThenItsSecondHalf) {
-    HeadlessPlatform headless;
-    Runtime runtime(headless);
-    runtime.registerForm("frmCard", [](Runtime& rt) {
-        auto form = std::make_unique<Form>(rt, "frmCard");
+    Shown shown("frmCard", [](Form& f) {
         static const ControlSpec kLayout[] = {{ControlKind::Image, "Card", 3, 150, 150, 1065, 1455}};
-        form->add(kLayout);
-        form->c("Card", 3).setPicture(14);
-        return form;
+        f.add(kLayout);
+        f.c("Card", 3).setPicture(14);
     });
-    runtime.show("frmCard");
-    SnapshotTaker taker;
-    std::vector<InputEvent> sent;
-    Renderer renderer([&sent](const InputEvent& e) { sent.push_back(e); });
-    renderer.apply(taker.take(runtime));
-    QWidget* card = renderer.visibleWindows().at("frmCard")->findChild<QWidget*>("Card(3)");
+    QWidget* card = shown.window()->findChild<QWidget*>("Card(3)");
     ASSERT_NE(card, nullptr);
-    const QPointF at(10, 10);
-    auto mouse = [&](QEvent::Type type) {
-        QMouseEvent e(type, at, card->mapToGlobal(at), Qt::LeftButton,
-                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(card, &e);
-    };
-    mouse(QEvent::MouseButtonPress);
-    mouse(QEvent::MouseButtonRelease);
-    mouse(QEvent::MouseButtonDblClick);
-    mouse(QEvent::MouseButtonRelease);
+    for (QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick,
+                              QEvent::MouseButtonRelease})
+        Shown::Mouse(card, type);
     std::vector<std::pair<InputKind, int>> got;
-    for (const InputEvent& e : sent)
+    for (const InputEvent& e : shown.sent)
         if (e.kind != InputKind::MouseMove) got.emplace_back(e.kind, e.value);
     EXPECT_EQ(got, (std::vector<std::pair<InputKind, int>>{{InputKind::Click, 0}, {InputKind::DblClick, 1}}));
-    ASSERT_FALSE(sent.empty());
-    EXPECT_EQ(sent.back().control, "Card");
-    EXPECT_EQ(sent.back().index, 3);
+    EXPECT_EQ(shown.sent.back().control, "Card");
+    EXPECT_EQ(shown.sent.back().index, 3);
 }
 
 // ---- the platform between the threads -------------------------------------------
 
-TEST(QtPlatform, WaitTimesOutWithoutInputAndServesInputInOrder) {
-    Renderer renderer([](const InputEvent&) {});
-    SoundSystem sound(QStringLiteral("/nonexistent"));
-    QtPlatform platform(renderer, sound);
-    InputEvent e;
-    const int64_t t0 = platform.now();
-    EXPECT_EQ(platform.wait(e, t0 + 30, false), WaitResult::Timeout);
-    EXPECT_GE(platform.now() - t0, 29);
+namespace {
+// A platform between a renderer and the logic, with no sound to play.
+struct Between {
+    Renderer renderer{[](const InputEvent&) {}};
+    SoundSystem sound{QStringLiteral("/nonexistent")};
+    QtPlatform platform{renderer, sound};
 
-    InputEvent a, b;
-    a.control = "a";
-    b.control = "b";
-    platform.post(a);
-    platform.post(b);
-    ASSERT_EQ(platform.wait(e, platform.now(), true), WaitResult::Input);
+    void post(InputKind kind, const char* control) {
+        InputEvent e;
+        e.kind = kind;
+        e.control = control;
+        platform.post(e);
+    }
+    // The controls of the input waiting now, in order, a mouse move marked "~".
+    std::vector<std::string> drain() {
+        std::vector<std::string> got;
+        InputEvent e;
+        while (platform.wait(e, platform.now(), true) == WaitResult::Input)
+            got.push_back(e.kind == InputKind::MouseMove ? e.control + "~" : e.control);
+        return got;
+    }
+};
+}  // namespace
+
+// Waiting times out without input and serves input in order; mouse moves
+// over one control count once while the logic is busy.
+TEST(QtPlatform, WaitTimesOutAndServesInputInOrderWithRepeatedMovesAsOne) {
+    Between p;
+    InputEvent e;
+    const int64_t t0 = p.platform.now();
+    EXPECT_EQ(p.platform.wait(e, t0 + 30, false), WaitResult::Timeout);
+    EXPECT_GE(p.platform.now() - t0, 29);
+
+    p.post(InputKind::Click, "a");
+    p.post(InputKind::Click, "b");
+    ASSERT_EQ(p.platform.wait(e, p.platform.now() + 1000, false), WaitResult::Input);
     EXPECT_EQ(e.control, "a");
-    ASSERT_EQ(platform.wait(e, platform.now() + 1000, false), WaitResult::Input);
-    EXPECT_EQ(e.control, "b");
-    EXPECT_EQ(platform.wait(e, platform.now(), true), WaitResult::Timeout);
-}
+    EXPECT_EQ(p.drain(), (std::vector<std::string>{"b"}));
 
-TEST(QtPlatform, MouseMovesOverOneControlCountOnceWhileTheLogicIsBusy) {
-    Renderer renderer([](const InputEvent&) {});
-    SoundSystem sound(QStringLiteral("/nonexistent"));
-    QtPlatform platform(renderer, sound);
-    InputEvent move;
-    move.kind = InputKind::MouseMove;
-    move.control = "card";
-    platform.post(move);
-    platform.post(move);
-    InputEvent click;
-    click.control = "card";
-    platform.post(click);
-    platform.post(move);
-    InputEvent e;
-    std::vector<InputKind> kinds;
-    while (platform.wait(e, platform.now(), true) == WaitResult::Input) kinds.push_back(e.kind);
-    EXPECT_EQ(kinds, (std::vector<InputKind>{InputKind::MouseMove, InputKind::Click, InputKind::MouseMove}));
+    p.post(InputKind::MouseMove, "card");
+    p.post(InputKind::MouseMove, "card");
+    p.post(InputKind::Click, "card");
+    p.post(InputKind::MouseMove, "card");
+    EXPECT_EQ(p.drain(), (std::vector<std::string>{"card~", "card", "card~"}));
 }
 
 TEST(QtPlatform, InputDuringASleepIsServedAfterItAndStopEndsAWait) {
-    Renderer renderer([](const InputEvent&) {});
-    SoundSystem sound(QStringLiteral("/nonexistent"));
-    QtPlatform platform(renderer, sound);
-    std::thread user([&platform] {
+    Between p;
+    std::thread user([&p] {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
-        InputEvent click;
-        click.control = "late";
-        platform.post(click);
+        p.post(InputKind::Click, "late");
     });
-    const int64_t t0 = platform.now();
-    platform.sleep(80);  // the click arrives in the middle and must not cut it short
-    EXPECT_GE(platform.now() - t0, 79);
+    const int64_t t0 = p.platform.now();
+    p.platform.sleep(80);  // the click arrives in the middle and must not cut it short
+    EXPECT_GE(p.platform.now() - t0, 79);
     user.join();
-    InputEvent e;
-    ASSERT_EQ(platform.wait(e, platform.now(), true), WaitResult::Input);
-    EXPECT_EQ(e.control, "late");
+    EXPECT_EQ(p.drain(), (std::vector<std::string>{"late"}));
 
-    std::thread stopper([&platform] {
+    std::thread stopper([&p] {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
-        platform.requestStop();
+        p.platform.requestStop();
     });
-    EXPECT_THROW(platform.wait(e, platform.now() + 60000, false), StopRun);
+    InputEvent e;
+    EXPECT_THROW(p.platform.wait(e, p.platform.now() + 60000, false), StopRun);
     stopper.join();
 }
 

@@ -85,24 +85,19 @@ public:
             if (!TakingScore) TakeScore();
         });
         on("cmdHit", Ev::Click, [this](EventArgs&) { cmdHit_Click(); });
-        for (const char* exit : {"cmdExit", "mnuExit"})
-            on(exit, Ev::Click, [this](EventArgs&) { this->runtime().unload(*this); });
         on("Timer1", Ev::Timer, [this](EventArgs&) { Timer1_Timer(); });
-        BindStandingTimers(*this, Splash, {}, "Timer3");
-        BindTimeAndDeckMenus(kTimeEntries, kDeckMenus, [this](const char* menu) { mnuTime_Click(menu); },
-                             [this](int design) { mnuDeck_Click(design); });
-        on("mnuSounds", Ev::Click, [this](EventArgs&) { SetPlaySounds(*this, !PlaySounds); });
-        on("mnuMusic", Ev::Click, [this](EventArgs&) {
+        BindShared();
+        // A paused game keeps the music off; the Hall of Fame opens as Rules and About do.
+        replace("mnuMusic", Ev::Click, [this](EventArgs&) {
             SetPlayMusic(*this, !PlayMusic, GameInProgress && c("cmdPause").caption() == kPauseCaption);
         });
+        replace("mnuView", Ev::Click, [this](EventArgs&) { ShowModalPaused(*this, "frmHighScores"); });
+        BindTimeAndDeckMenus(kTimeEntries, kDeckMenus, [this](const char* menu) { mnuTime_Click(menu); },
+                             [this](int design) { mnuDeck_Click(design); });
         on("mnuClear", Ev::Click, [this](EventArgs&) { ClearTable(); });
-        for (const auto& [menu, form] : {std::pair{"mnuView", "frmHighScores"}, std::pair{"mnuRules", "frmRules"},
-                                         std::pair{"mnuAbout", "frmAbout"}})
-            on(menu, Ev::Click, [this, f = form](EventArgs&) { ShowModalPaused(*this, f); });
 
         ExposeVariables({
             {"CurrentRound", Expose(CurrentRound)},
-            {"HitCount", Expose(HitCount)},
             {"HitBonus", Expose(HitBonus)},
             {"SplashPosition", Expose(Splash.SplashPosition)},
             {"SplashForward", Expose(Splash.SplashForward)},

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // frmTestLauncher: cmdOpen opens the test game as a selector button would;
 // cmdWrite writes txtContent to the file txtFile names in AppPath ("\X.Ini"),
-// cmdRead reads it back into txtContent ("<missing>" when there is none),
-// cmdDelete removes it.
-#include <cstdio>
+// cmdRead reads it back into txtContent ("<missing>" when there is none).
 #include <memory>
 
 #include "suite/common.h"
@@ -22,7 +20,6 @@ const ControlSpec kLayout[] = {
     {K::TextBox, "txtContent", -1, 120, 1000, 3000, 2000, ""},
     {K::Button, "cmdWrite", -1, 120, 3100, 900, 375, "Write"},
     {K::Button, "cmdRead", -1, 1100, 3100, 900, 375, "Read"},
-    {K::Button, "cmdDelete", -1, 2100, 3100, 900, 375, "Delete"},
 };
 
 class frmTestLauncher : public Form {
@@ -45,7 +42,6 @@ public:
             std::string text;
             c("txtContent").setText(ReadWholeFile(AppFile(c("txtFile").text()), text) ? text : "<missing>");
         });
-        on("cmdDelete", Ev::Click, [this](EventArgs&) { std::remove(AppFile(c("txtFile").text()).c_str()); });
     }
 };
 }  // namespace

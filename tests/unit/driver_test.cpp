@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <tuple>
 #include <sys/wait.h>
 
 #include "tools/script/script.h"
@@ -99,58 +100,30 @@ TEST(Driver, GroupsReadInOrderAndAnOpeningsFailureNamesItsFile) {
     EXPECT_EQ(run.status, 1);
 }
 
-TEST(Driver, MessageBoxesAndSoundsAreReadOnce) {
-    ScriptRun run = RunScript(
-        "click frmSelect.cmdLaunchBrowser\n"
-        "msgboxes\n"
-        "sounds\n"
-        "expect sounds\n"
-        "expect msgbox \"anything\"\n");
-    EXPECT_EQ(run.out, "\nFAIL 5: msgbox = <none> (expected anything)\n");
-    EXPECT_EQ(run.status, 1);
-}
-
-TEST(Driver, UnknownNamesAndValuesOutOfBoundsStopTheRun) {
-    const std::pair<const char*, const char*> cases[] = {
+// An unknown name or a value out of bounds stops the run with status 2; quit
+// or closing the selector ends it at once with status 0. Message boxes and
+// sounds are read once; an answer by place presses the first or second button
+// of any box.
+TEST(Driver, RunsEndWithTheirOutputAndStatus) {
+    const std::tuple<const char*, const char*, int> cases[] = {
         {"print frmSelect.cmdNothing.Caption\nprint frmSelect.Caption\n",
-         "ERROR 1: unknown control or variable cmdNothing of frmSelect\n"},
-        {"frobnicate\n", "ERROR 1: unknown command frobnicate\n"},
-        {"print frmSelect.cmdClose.Colour\n", "ERROR 1: unknown property Colour\n"},
+         "ERROR 1: unknown control or variable cmdNothing of frmSelect\n", 2},
+        {"frobnicate\n", "ERROR 1: unknown command frobnicate\n", 2},
+        {"print frmSelect.cmdClose.Colour\n", "ERROR 1: unknown property Colour\n", 2},
         {"print frmSelect.imgSplashImage(2..1).Picture\n",
-         "ERROR 1: a range is (FIRST..LAST): frmSelect.imgSplashImage(2..1).Picture\n"},
+         "ERROR 1: a range is (FIRST..LAST): frmSelect.imgSplashImage(2..1).Picture\n", 2},
+        {"random 99\nadvance 4500\n", "FAIL 2: random 99 is outside 14..65\n", 1},
+        {"print CurrentScore\nquit\nprint nothing\n", "0\n", 0},
+        {"click frmSelect.cmdClose\nprint nothing\n", "", 0},
+        {"click frmSelect.cmdLaunchBrowser\nmsgboxes\nsounds\nexpect sounds\nexpect msgbox \"anything\"\n",
+         "\nFAIL 5: msgbox = <none> (expected anything)\n", 1},
+        {"click frmSelect.cmdSumfall\nclick frmSumfall.cmdPlay\nanswer second\nclose frmSumfall\n"
+         "print frmSumfall.Loaded\nanswer first\nclose frmSumfall\nprint frmSumfall.Loaded\n",
+         "True\nFalse\n", 0},
     };
-    for (const auto& [script, out] : cases) {
+    for (const auto& [script, out, status] : cases) {
         ScriptRun run = RunScript(script);
-        EXPECT_EQ(run.out, out);
-        EXPECT_EQ(run.status, 2) << script;
+        EXPECT_EQ(run.out, out) << script;
+        EXPECT_EQ(run.status, status) << script;
     }
-    ScriptRun run = RunScript("random 99\nadvance 4500\n");
-    EXPECT_EQ(run.out, "FAIL 2: random 99 is outside 14..65\n");
-    EXPECT_EQ(run.status, 1);
-}
-
-TEST(Driver, QuitOrClosingTheSelectorEndsTheRunAtOnce) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"print CurrentScore\nquit\nprint nothing\n", "0\n"},
-        {"click frmSelect.cmdClose\nprint nothing\n", ""},
-    };
-    for (const auto& [script, out] : cases) {
-        ScriptRun run = RunScript(script);
-        EXPECT_EQ(run.out, out);
-        EXPECT_EQ(run.status, 0) << script;
-    }
-}
-
-TEST(Driver, AnswersByPlacePressTheFirstOrSecondButtonOfAnyBox) {
-    ScriptRun run = RunScript(
-        "click frmSelect.cmdSumfall\n"
-        "click frmSumfall.cmdPlay\n"
-        "answer second\n"
-        "close frmSumfall\n"
-        "print frmSumfall.Loaded\n"
-        "answer first\n"
-        "close frmSumfall\n"
-        "print frmSumfall.Loaded\n");
-    EXPECT_EQ(run.out, "True\nFalse\n");
-    EXPECT_EQ(run.status, 0) << run.out;
 }

@@ -17,23 +17,11 @@ namespace {
 using Step = HeadlessPlatform::Step;
 using Log = std::vector<std::string>;
 
-Step Advance(int64_t ms) {
-    Step s;
-    s.kind = Step::Kind::Advance;
-    s.ms = ms;
-    return s;
-}
+Step Advance(int64_t ms) { return {Step::Kind::Advance, {}, ms}; }
 
 Step Input(InputKind kind, const std::string& form, const std::string& control = "", const std::string& text = "",
            int value = 0) {
-    Step s;
-    s.kind = Step::Kind::Input;
-    s.event.kind = kind;
-    s.event.form = form;
-    s.event.control = control;
-    s.event.text = text;
-    s.event.value = value;
-    return s;
+    return {Step::Kind::Input, {.kind = kind, .form = form, .control = control, .text = text, .value = value}, 0};
 }
 
 Step Click(const std::string& form, const std::string& control) { return Input(InputKind::Click, form, control); }

@@ -10,13 +10,6 @@ import puppeteer from 'puppeteer-core';
 export const site = process.env.CARDHAVEN_SITE;
 const here = path.dirname(new URL(import.meta.url).pathname);
 
-export function chromiumPath() {
-  for (const p of [process.env.CHROMIUM, '/usr/bin/chromium', '/usr/bin/chromium-browser']) {
-    if (p && fs.existsSync(p)) return p;
-  }
-  return null;
-}
-
 // A server of the site folder, or of another (`slot` gives each its own port).
 export async function startServer(root = site, slot = 0) {
   const port = 18000 + (process.pid % 1000) + 1000 * slot;
@@ -32,7 +25,8 @@ export async function startServer(root = site, slot = 0) {
 export async function launch(extra = []) {
   const profile = fs.mkdtempSync(path.join(os.tmpdir(), 'cardhaven-chromium-'));
   const browser = await puppeteer.launch({
-    executablePath: chromiumPath(),
+    executablePath: [process.env.CHROMIUM, '/usr/bin/chromium', '/usr/bin/chromium-browser']
+      .find((p) => p && fs.existsSync(p)),
     headless: true,
     userDataDir: profile,
     // No name resolves but localhost's: a page the suite opens fails at once, offline.
@@ -59,10 +53,6 @@ export async function waitText(page, ref, pattern, timeout = 15000) {
     const el = document.querySelector(s);
     return el && new RegExp(p).test(el.textContent);
   }, {timeout, polling: 50}, sel(ref), pattern.source);
-}
-
-export async function text(page, ref) {
-  return page.$eval(sel(ref), (el) => el.textContent);
 }
 
 export async function click(page, ref) {

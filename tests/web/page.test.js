@@ -10,7 +10,7 @@ import os from 'node:os';
 import path from 'node:path';
 import {after, before, describe, test} from 'node:test';
 import {acceptDialogs, alt, chooseFile, click, downloads, launch, menu, msgboxText, nextSuite, sel, site, startServer,
-  storedFiles, tap, text, waitText} from './harness.js';
+  storedFiles, tap, waitText} from './harness.js';
 
 const repo = path.resolve(path.dirname(new URL(import.meta.url).pathname), '..', '..');
 let server, browser, page, dialogs, files;
@@ -62,6 +62,15 @@ async function keptGameListed() {
   await click(page, 'frmOpen.cmdCancel');
 }
 
+// Opens a game from the selector by `press` (a click or a tap), stacks its deck and deals.
+async function deal([button, form, deck, control, caption], press = click) {
+  await press(page, `frmSelect.${button}`);
+  await page.waitForSelector(sel(form), {visible: true, timeout: 20000});
+  if (deck) await page.evaluate((d) => window.cardhaven.stack(d), deck);
+  await press(page, `${form}.cmdPlay`);
+  await waitText(page, `${form}.${control}`, caption, 20000);
+}
+
 // Closing a game window asks first; Yes goes back to the selector.
 async function closeGame(form) {
   await page.click(`${sel(form)} .titlebar .close`);
@@ -75,21 +84,18 @@ describe('the suite in the page', () => {
     await page.goto(`${server.url}?test`);
     await page.waitForSelector(sel('frmSelect'), {visible: true, timeout: 20000});
     assert.equal(await page.$eval(`${sel('frmSelect')} .caption`, (e) => e.textContent), "Quillmark's Card Haven");
-    assert.equal(await page.$eval(`${sel('frmSelect.frmGameChoice')} .legend`, (e) => e.textContent), 'Select your game');
+    assert.equal(await page.$eval(`${sel('frmSelect.frmGameChoice')} .legend`, (e) => e.textContent),
+      'Select your game');
     for (const [button] of DEALS) await page.waitForSelector(sel(`frmSelect.${button}`), {visible: true});
     // Sound waits for the first gesture: nothing has played yet.
     const played = await page.evaluate(() => window.cardhaven.audio.requests.filter((r) => r.unlocked).length);
     assert.equal(played, 0);
   });
 
-  for (const [button, form, deck, control, caption] of DEALS) {
-    test(`${form} opens from the selector and deals a stacked deck`, async () => {
-      await click(page, `frmSelect.${button}`);
-      await page.waitForSelector(sel(form), {visible: true, timeout: 20000});
-      if (deck) await page.evaluate((d) => window.cardhaven.stack(d), deck);
-      await click(page, `${form}.cmdPlay`);
-      await waitText(page, `${form}.${control}`, caption, 20000);
-      await closeGame(form);
+  for (const game of DEALS) {
+    test(`${game[1]} opens from the selector and deals a stacked deck`, async () => {
+      await deal(game);
+      await closeGame(game[1]);
     });
   }
 
@@ -100,10 +106,7 @@ describe('the suite in the page', () => {
   });
 
   test('Sumfall: a count-up is seen step by step while the page answers, then a high score', async () => {
-    await click(page, 'frmSelect.cmdSumfall');
-    await page.evaluate((d) => window.cardhaven.stack(d), DEALS[0][2]);
-    await click(page, 'frmSumfall.cmdPlay');
-    await waitText(page, 'frmSumfall.lblTime', /^Time: \d+$/, 20000);
+    await deal(DEALS[0]);
     for (const i of [20, 21, 16, 17, 18, 19, 10, 12, 11, 7, 13, 15, 14, 5, 6, 3, 4, 8, 9, 1, 2]) {
       await click(page, `frmSumfall.FieldCardPicture(${i})`);
     }
@@ -141,7 +144,7 @@ describe('the suite in the page', () => {
     await page.keyboard.type('Ann');
     await click(page, 'frmHiScoreName.cmdOK');
     await waitText(page, 'frmHighScores.ScoreList(0)', /^Ann$/);
-    best = await text(page, 'frmHighScores.ScoreList(1)');
+    best = await page.$eval(sel('frmHighScores.ScoreList(1)'), (e) => e.textContent);
     assert.match(best, /^\d\d,\d00$/);
     await click(page, 'frmHighScores.cmdDone');
     await waitText(page, 'frmSumfall.lblHighScore', new RegExp(`^High Score: ${best}$`));
@@ -263,11 +266,7 @@ describe('the suite in the page', () => {
 
   test('a tap on a touch screen plays a card', async () => {
     await page.setViewport({width: 1280, height: 900, hasTouch: true});  // and loads the page again
-    await tap(page, 'frmSelect.cmdSumfall');
-    await page.waitForSelector(sel('frmSumfall'), {visible: true, timeout: 20000});
-    await page.evaluate((d) => window.cardhaven.stack(d), DEALS[0][2]);
-    await tap(page, 'frmSumfall.cmdPlay');
-    await waitText(page, 'frmSumfall.lblTime', /^Time: \d+$/, 20000);
+    await deal(DEALS[0], tap);
     await tap(page, 'frmSumfall.FieldCardPicture(20)');
     await tap(page, 'frmSumfall.FieldCardPicture(21)');
     await waitText(page, 'frmSumfall.lblCurrentScore', /^[1-9]/);
