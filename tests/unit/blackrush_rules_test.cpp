@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Blackrush's rules at edges a scenario passes only once: the pile's
-// thresholds, the bonus round test, custom scoring, the wait in seconds.
+// thresholds, custom scoring, the wait in seconds.
 #include <gtest/gtest.h>
 
 #include "games/blackrush/modBlackrush.h"
@@ -12,12 +12,6 @@ TEST(BlackrushRules, ThePileThinsAtSeventeenAndThirtyFive) {
     EXPECT_STREQ(PileKey(17), "HALF");
     EXPECT_STREQ(PileKey(34), "HALF");
     EXPECT_STREQ(PileKey(35), "BACK");
-}
-
-TEST(BlackrushRules, BonusRoundNeedsMoreThanTheBonusScoreAfterRoundThree) {
-    EXPECT_FALSE(EarnsBonusRound(4, 250000, 250000));
-    EXPECT_TRUE(EarnsBonusRound(4, 250001, 250000));
-    EXPECT_FALSE(EarnsBonusRound(5, 900000, 250000));
 }
 
 TEST(BlackrushRules, CustomScoringIgnoresTheTwentyOneBonusAndTheWait) {
