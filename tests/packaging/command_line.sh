@@ -1,43 +1,33 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # tests/packaging/command_line.sh PROGRAM SCRIPT-PROGRAM VERSION
-# The command lines of cardhaven and cardhaven-script, run without a display:
-# help and version print and succeed, a wrong option gets a short usage on
-# standard error and status 2, and a missing or unreachable display is told
-# in one line of our own.
-set -u
+# Without a display: help and version succeed, a wrong option gets a short
+# usage and status 2, and a missing display is told in one line of our own.
+. "$(dirname "$0")/lib.sh"
 program=$(realpath "$1")
 driver=$(realpath "$2")
 version=$3
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-failed=0
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
 export XDG_RUNTIME_DIR=$work/run   # must stay empty: nothing is started
-mkdir -m 700 "$XDG_RUNTIME_DIR"
+mkdir -m 700 "$XDG_RUNTIME_DIR" "$work/tmp"
+empty() { [ -z "$(ls -A "$1")" ] || fail "$2"; }
 
-# expect STATUS STDOUT-PATTERN STDERR-PATTERN STDERR-LINES -- COMMAND...
-# A pattern is an extended regular expression one line must match ("" for an
-# empty stream); STDERR-LINES is the number of lines wanted there, or "-".
+# expect STATUS STDOUT-PATTERN STDERR-PATTERN STDERR-LINES -- COMMAND...: a pattern is an
+# extended regular expression one line must match, "" for an empty stream; "-" any line count.
 expect() {
-    local status=$1 out=$2 err=$3 lines=$4
-    shift 5
-    (cd "$work" && timeout 30 "$@") >"$work/out" 2>"$work/err"
-    local got=$? problem=
-    [ "$got" -eq "$status" ] || problem="status $got, not $status"
-    if [ -z "$out" ]; then [ -s "$work/out" ] && problem+=" standard output not empty"
-    elif ! grep -Eq -- "$out" "$work/out"; then problem+=" no line of standard output matches /$out/"; fi
-    if [ -z "$err" ]; then [ -s "$work/err" ] && problem+=" standard error not empty"
-    elif ! grep -Eq -- "$err" "$work/err"; then problem+=" no line of standard error matches /$err/"; fi
-    if [ "$lines" != - ] && [ "$(wc -l <"$work/err")" -ne "$lines" ]; then
-        problem+=" $(wc -l <"$work/err") lines on standard error, not $lines"
-    fi
-    if [ -n "$problem" ]; then
-        echo "FAIL: $*:$problem"
-        echo "  stdout: $(head -c 600 "$work/out")"
-        echo "  stderr: $(head -c 600 "$work/err")"
-        failed=1
-    fi
+    local patterns=([1]="$2" [2]="$3") names=([1]=stdout [2]=stderr) lines=$4 problem= fd got
+    (cd "$work" && timeout 30 "${@:6}") >"$work/1" 2>"$work/2"
+    got=$?
+    [ "$got" -eq "$1" ] || problem="status $got, not $1"
+    for fd in 1 2; do
+        if [ -z "${patterns[fd]}" ]; then [ -s "$work/$fd" ] && problem+=" ${names[fd]} not empty"
+        elif ! grep -Eq -- "${patterns[fd]}" "$work/$fd"; then
+            problem+=" no line of ${names[fd]} matches /${patterns[fd]}/"
+        fi
+    done
+    [ "$lines" = - ] || [ "$(wc -l <"$work/2")" -eq "$lines" ] || problem+=" $(wc -l <"$work/2") lines on stderr"
+    [ -z "$problem" ] ||
+        fail "${*:6}:$problem"$'\n'"  stdout: $(head -c 600 "$work/1")"$'\n'"  stderr: $(head -c 600 "$work/2")"
 }
 
 # Help and version need no display, and start nothing.
@@ -46,7 +36,7 @@ expect 0 '^  --version ' '' - -- "$program" -h
 expect 0 "^cardhaven $version\$" '' - -- "$program" --version
 expect 0 '^usage: cardhaven-script ' '' - -- "$driver" --help
 expect 0 "^cardhaven-script $version\$" '' - -- "$driver" --version
-[ -z "$(ls -A "$XDG_RUNTIME_DIR")" ] || { echo "FAIL: --help left files in the runtime folder"; failed=1; }
+empty "$XDG_RUNTIME_DIR" "--help left files in the runtime folder"
 
 # Wrong options: two or three lines of usage on standard error, status 2,
 # before anything else happens (the display is not even looked at).
@@ -63,13 +53,12 @@ expect 1 '' '^cardhaven: no display' 1 -- "$program" -- --help
 # No display: one line of ours, nothing of Qt's, and no runtime folder left.
 expect 1 '' '^cardhaven: no display to show the windows on \(DISPLAY is not set\)$' 1 -- "$program"
 expect 1 '' '^cardhaven: cannot open the display :4071$' 1 -- env DISPLAY=:4071 "$program" "$work/saved game.sfl"
-[ -z "$(ls -A "$XDG_RUNTIME_DIR")" ] || { echo "FAIL: the runtime folder is not empty"; failed=1; }
+empty "$XDG_RUNTIME_DIR" "the runtime folder is not empty"
 unset XDG_RUNTIME_DIR
-mkdir "$work/tmp"
 expect 1 '' '^cardhaven: cannot open the display :4071$' 1 -- env DISPLAY=:4071 TMPDIR="$work/tmp" "$program"
-[ -z "$(ls -A "$work/tmp")" ] || { echo "FAIL: a private runtime folder was left behind"; failed=1; }
+empty "$work/tmp" "a private runtime folder was left behind"
 
 # The icon is drawn without a display.
 expect 0 '' '' 0 -- "$program" --write-icon "$work/icon.png" 48
-[ -s "$work/icon.png" ] || { echo "FAIL: --write-icon wrote no icon"; failed=1; }
-exit $failed
+[ -s "$work/icon.png" ] || fail "--write-icon wrote no icon"
+finish
