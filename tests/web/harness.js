@@ -13,7 +13,7 @@ const here = path.dirname(new URL(import.meta.url).pathname);
 // A server of the site folder, or of another (`slot` gives each its own port).
 export async function startServer(root = site, slot = 0) {
   const port = 18000 + (process.pid % 1000) + 1000 * slot;
-  const server = spawn(process.execPath, [path.join(here, '..', 'serve.js'), root, String(port)],
+  const server = spawn(process.execPath, [path.join(here, '..', '..', 'web', 'serve.js'), root, String(port)],
     {stdio: ['ignore', 'pipe', 'inherit']});
   await new Promise((resolve, reject) => {
     server.stdout.once('data', resolve);
