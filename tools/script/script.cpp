@@ -246,6 +246,7 @@ bool FormProperty(const Form& f, const std::string& p, std::string& out) {
     if (p == "Caption") out = f.caption();
     else if (p == "Visible") out = Bool(f.visible());
     else if (p == "Loaded") out = Bool(f.loaded());
+    else if (p == "Modal") out = Bool(f.modal());
     else if (p == "Enabled") out = Bool(f.enabled());
     else if (p == "MousePointer") out = std::to_string(f.mousePointer());
     else if (p == "Width") out = std::to_string(f.width());
