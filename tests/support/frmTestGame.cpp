@@ -26,9 +26,6 @@ namespace ch {
 namespace {
 using K = ControlKind;
 
-const char* const kTable = "TestHiScores";
-const char* const kDefaultScore = "50000";
-
 const TimeEntry kTimeEntries[] = {
     {"mnu30", 30, "&30 seconds"},
     {"mnu60", 60, "&60 seconds (default)"},
@@ -61,8 +58,8 @@ const GameInfo kTestGame = {
     .button = nullptr,
     .buttonCaption = "",
     .buttonSlot = 0,
-    .tableName = kTable,
-    .defaultScore = kDefaultScore,
+    .tableName = "TestHiScores",
+    .defaultScore = "50000",
     .settingsFile = "\\Testgame.Ini",
     .timeEntries = kTimeEntries,
     .defaultTime = 60,
@@ -211,7 +208,7 @@ private:
         HitCount = 0;
         TakingScore = false;
 
-        FinishGame(*this, kTable, kDefaultScore,
+        FinishGame(*this, kTestGame.tableName, kTestGame.defaultScore,
                    {[this](bool v) { ShowCards(v); }, [this](bool v, bool s) { ShowControls(v, s); }, true});
         if (!loaded()) return;
         Control& message = c("lblMessage");

@@ -15,16 +15,12 @@ TEST(Val, ReadsTheNumberAtTheStartAndNeverAnExponent) {
 }
 
 TEST(Conversions, RoundHalvesToTheEvenNeighbourAndOverflowOutOfRange) {
-    EXPECT_EQ(CInt(2.5), 2);
-    EXPECT_EQ(CInt(3.5), 4);
-    EXPECT_EQ(CInt(-2.5), -2);
-    EXPECT_EQ(CInt(22.5), 22);  // a quarter of 90 seconds
-    EXPECT_EQ(CInt(37.5), 38);  // a quarter of 150 seconds
-    EXPECT_EQ(CInt(2.4999), 2);
+    // 22.5 and 37.5 are a quarter of 90 and of 150 seconds.
+    const std::pair<double, int> ints[] = {{2.5, 2},   {3.5, 4},         {-2.5, -2},      {22.5, 22},
+                                           {37.5, 38}, {2.4999, 2}, {32767.4, 32767}, {-32768.5, -32768}};
+    for (const auto& [value, rounded] : ints) EXPECT_EQ(CInt(value), rounded) << value;
     EXPECT_EQ(CLng(2500000.5), 2500000);
     EXPECT_EQ(CLng(-0.5), 0);
-    EXPECT_EQ(CInt(32767.4), 32767);
-    EXPECT_EQ(CInt(-32768.5), -32768);
     try {
         CInt(32767.5);
         FAIL() << "no error raised";
@@ -37,20 +33,12 @@ TEST(Conversions, RoundHalvesToTheEvenNeighbourAndOverflowOutOfRange) {
 }
 
 TEST(Texts, ScoresGroupDigitsInThreesAndStrKeepsTheBlankOfItsSign) {
-    EXPECT_EQ(FormatScore(0), "0");
-    EXPECT_EQ(FormatScore(999), "999");
-    EXPECT_EQ(FormatScore(1000), "1,000");
-    EXPECT_EQ(FormatScore(1234567), "1,234,567");
-    EXPECT_EQ(FormatScore(-1500), "-1,500");
-    EXPECT_EQ(FormatScore(-2147483648LL), "-2,147,483,648");
-    EXPECT_EQ(Str(7), " 7");
-    EXPECT_EQ(Str(0), " 0");
-    EXPECT_EQ(Str(-7), "-7");
-    EXPECT_EQ(NumText(7), "7");
-    EXPECT_EQ(Trim("  10D "), "10D");
-    EXPECT_EQ(LTrim("  a "), "a ");
-    EXPECT_EQ(RTrim("  a "), "  a");
-    EXPECT_EQ(Trim("   "), "");
+    const std::pair<std::string, std::string> texts[] = {
+        {FormatScore(0), "0"},        {FormatScore(999), "999"},       {FormatScore(1000), "1,000"},
+        {FormatScore(1234567), "1,234,567"}, {FormatScore(-1500), "-1,500"},
+        {FormatScore(-2147483648LL), "-2,147,483,648"}, {Str(7), " 7"}, {Str(0), " 0"}, {Str(-7), "-7"},
+        {NumText(7), "7"}, {Trim("  10D "), "10D"}, {LTrim("  a "), "a "}, {RTrim("  a "), "  a"}, {Trim("   "), ""}};
+    for (const auto& [text, expected] : texts) EXPECT_EQ(text, expected);
 }
 
 // A settings file's True is the one spelling; anything else reads as False.

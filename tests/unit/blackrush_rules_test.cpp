@@ -8,10 +8,8 @@
 using namespace ch::blackrush;
 
 TEST(BlackrushRules, ThePileThinsAtSeventeenAndThirtyFive) {
-    EXPECT_STREQ(PileKey(16), "FULL");
-    EXPECT_STREQ(PileKey(17), "HALF");
-    EXPECT_STREQ(PileKey(34), "HALF");
-    EXPECT_STREQ(PileKey(35), "BACK");
+    const std::pair<int, const char*> steps[] = {{16, "FULL"}, {17, "HALF"}, {34, "HALF"}, {35, "BACK"}};
+    for (const auto& [cards, key] : steps) EXPECT_STREQ(PileKey(cards), key) << cards;
 }
 
 TEST(BlackrushRules, CustomScoringIgnoresTheTwentyOneBonusAndTheWait) {
@@ -31,8 +29,6 @@ TEST(BlackrushRules, CustomScoringIgnoresTheTwentyOneBonusAndTheWait) {
 }
 
 TEST(BlackrushRules, TheWaitIsShownInSecondsWithoutTrailingZeros) {
-    EXPECT_EQ(SecondsText(2500), "2.5");
-    EXPECT_EQ(SecondsText(32767), "32.767");
-    EXPECT_EQ(SecondsText(-500), "-0.5");
-    EXPECT_EQ(SecondsText(0), "0");
+    const std::pair<int, const char*> waits[] = {{2500, "2.5"}, {32767, "32.767"}, {-500, "-0.5"}, {0, "0"}};
+    for (const auto& [ms, text] : waits) EXPECT_EQ(SecondsText(ms), text) << ms;
 }

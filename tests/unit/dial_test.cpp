@@ -55,13 +55,11 @@ TEST_F(DialWindow, NoPieOutsideOneTo360AndTheAngleRoundsHalfToEven) {
         const std::string text = window.c("Surface").drawingText();
         EXPECT_EQ(std::count(text.begin(), text.end(), 'p'), pies) << angle;
     }
-    TimeLimit = 80;  // 4.5 degrees a second
-    EXPECT_EQ(DialAngle(1), 4);
-    EXPECT_EQ(DialAngle(3), 14);  // 13.5
-    TimeLimit = 0;
-    EXPECT_EQ(DialAngle(5), 0);
-    TimeLimit = -1;  // 360 / -1 * 92 would overflow
-    EXPECT_EQ(DialAngle(92), 0);
+    // {limit, seconds, angle}: 4.5 degrees a second rounds 13.5 to 14; 360 / -1 * 92 would overflow.
+    for (const auto& [limit, seconds, angle] : {std::tuple{80, 1, 4}, {80, 3, 14}, {0, 5, 0}, {-1, 92, 0}}) {
+        TimeLimit = static_cast<int16_t>(limit);
+        EXPECT_EQ(DialAngle(seconds), angle) << limit << " " << seconds;
+    }
 }
 
 TEST_F(DialWindow, AwardBonusCountsInTwentiethsAndKeepsTheOvershoot) {
@@ -70,29 +68,28 @@ TEST_F(DialWindow, AwardBonusCountsInTwentiethsAndKeepsTheOvershoot) {
     EXPECT_EQ(snaps(), 20);
     EXPECT_EQ(window.c("lblMessage").caption(), "Tower Bonus!!");
     EXPECT_FALSE(window.c("lblScoring").visible());
-    // 1510 / 20 = 75.5 rounds to 76: twenty steps pay 1520.
-    CurrentScore = 0;
-    AwardBonus(window, "Runs Bonus", 1, 1510);
-    EXPECT_EQ(CurrentScore, 1520);
-    EXPECT_EQ(snaps(), 20);
-    // 15 / 20 rounds to 1: fifteen steps.
-    CurrentScore = 0;
-    AwardBonus(window, "Pairs Bonus", 3, 5);
-    EXPECT_EQ(CurrentScore, 15);
-    EXPECT_EQ(snaps(), 15);
-    // A step of 0 would never end: the total is added at once.
-    CurrentScore = 0;
-    AwardBonus(window, "Pairs Bonus", 1, 9);
-    EXPECT_EQ(CurrentScore, 9);
-    EXPECT_EQ(snaps(), 0);
+    // 1510 / 20 = 75.5 rounds to 76: twenty steps pay 1520; 15 / 20 rounds to 1: fifteen steps;
+    // a step of 0 would never end, so 9 is added at once.
+    const struct {
+        int count, value, score, steps;
+    } cases[] = {{1, 1510, 1520, 20}, {3, 5, 15, 15}, {1, 9, 9, 0}};
+    for (const auto& c : cases) {
+        CurrentScore = 0;
+        AwardBonus(window, "Pairs Bonus", c.count, c.value);
+        EXPECT_EQ(CurrentScore, c.score) << c.value;
+        EXPECT_EQ(snaps(), c.steps) << c.value;
+    }
 }
 
 // The overflow past it, through the window, is in the Spirehold scenarios.
-TEST_F(DialWindow, ASixteenBitCountTakesTotalsUpToItsRange) {
+TEST_F(DialWindow, ASixteenBitCountTakesTotalsUpToItsRangeAndScoresOverflowPast32Bits) {
     AwardBonus(window, "Highest Run Bonus", 32, 1000, {.sixteenBitCount = true});
     EXPECT_EQ(CurrentScore, 32000);
     EXPECT_EQ(snaps(), 20);
     EXPECT_THROW(AwardBonus(window, "Highest Run Bonus", 1, 32768, {.sixteenBitCount = true}), RuntimeError);
+    CurrentScore = 2147483000;
+    EXPECT_THROW(AddToScore(1000), RuntimeError);
+    EXPECT_EQ(CurrentScore, 2147483000);
 }
 
 TEST_F(DialWindow, CountTimeBonusWithNothingLeftEndsAfterItsDisplay) {
@@ -105,10 +102,4 @@ TEST_F(DialWindow, CountTimeBonusWithNothingLeftEndsAfterItsDisplay) {
     EXPECT_EQ(snaps(), 0);
     EXPECT_EQ(platform.now() - start, 2000);
     EXPECT_EQ(window.c("lblMessage").caption(), "Speed Bonus!");
-}
-
-TEST_F(DialWindow, ScoresBeyond32BitsOverflow) {
-    CurrentScore = 2147483000;
-    EXPECT_THROW(AddToScore(1000), RuntimeError);
-    EXPECT_EQ(CurrentScore, 2147483000);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <map>
 #include <stdexcept>
 
@@ -52,6 +53,16 @@ TEST(DuopickStack, StagesOfTheStackPicture) {
     for (const auto& [index, stage] : stages) EXPECT_EQ(StackStage(index), stage) << index;
     EXPECT_FALSE(StackOverrun(52));
     EXPECT_TRUE(StackOverrun(53));
+    // Turned tens of thousands of times past its end, the stack's and the waste
+    // pile's indexes stop at the top of their 16-bit range; every turn overruns.
+    ch::CreateStandardDeck();
+    Board board;
+    DealBoard(board, ch::Deck);
+    board.stackIndex = INT16_MAX - 1;
+    board.wastePos = INT16_MAX - 1;
+    for (int i = 0; i < 3; ++i) EXPECT_TRUE(ClickStack(board, ch::Deck).overrun);
+    EXPECT_EQ(board.stackIndex, INT16_MAX);
+    EXPECT_EQ(board.wastePos, INT16_MAX);
 }
 
 TEST(DuopickScoring, AwardsComeInTheirOrderWithThePairsLast) {

@@ -15,12 +15,10 @@ TEST(FivestackScoring, OnlyTheTimeBonusRangeTheBonusScoreAndThePassesLeftMarkASc
     v.WaitPeriod = 0;
     v.CardsToPass = 5;
     EXPECT_FALSE(IsCustomScoring(v, 1));
-    v.TimeBonusMin = 99;
-    EXPECT_TRUE(IsCustomScoring(v, 1));
-    v = ScoringValues{};
-    v.TimeBonusMax = 301;
-    EXPECT_TRUE(IsCustomScoring(v, 1));
-    v = ScoringValues{};
-    v.BonusScore = 199999;
-    EXPECT_TRUE(IsCustomScoring(v, 1));
+    for (auto change : {+[](ScoringValues& s) { s.TimeBonusMin = 99; }, +[](ScoringValues& s) { s.TimeBonusMax = 301; },
+                        +[](ScoringValues& s) { s.BonusScore = 199999; }}) {
+        ScoringValues changed;
+        change(changed);
+        EXPECT_TRUE(IsCustomScoring(changed, 1));
+    }
 }

@@ -67,14 +67,10 @@ TEST(HandgridDeck, StackThinsAsCardsAreDrawn) {
 
 TEST(HandgridScoring, AnyScoringValueOffItsDefaultIsCustom) {
     EXPECT_FALSE(IsCustomScoring(ScoringValues{}, kDefaultTimeBonus));
-    ScoringValues bonus;
+    ScoringValues bonus, overwrites, royal;
     bonus.BonusScore = 99999;
-    ScoringValues overwrites;
     overwrites.OverWritesAllowed = 2;
-    EXPECT_TRUE(IsCustomScoring(bonus, kDefaultTimeBonus));
-    EXPECT_TRUE(IsCustomScoring(overwrites, kDefaultTimeBonus));
-    ScoringValues royal;
     royal.HandScores[RoyalFlush] = 501;
-    EXPECT_TRUE(IsCustomScoring(royal, kDefaultTimeBonus));
+    for (const ScoringValues& v : {bonus, overwrites, royal}) EXPECT_TRUE(IsCustomScoring(v, kDefaultTimeBonus));
     EXPECT_TRUE(IsCustomScoring(ScoringValues{}, 2));
 }

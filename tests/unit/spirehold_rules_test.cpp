@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Spirehold's rules where the window can't show them whole: the neighbour
-// rule at its edges, the shape of the towers, and what counts as custom
-// scoring.
+// rule at its edges, the shape of the towers, what counts as custom scoring,
+// and a stack turned tens of thousands of times past its end.
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstdlib>
 
 #include "games/spirehold/modSpirehold.h"
+#include "games/spirehold/modSpireholdBoard.h"
+#include "suite/cards.h"
 #include "window/basic.h"
 
 using namespace ch;
@@ -55,4 +58,16 @@ TEST(SpireholdRules, CustomScoringIsAnyValueOffItsDefault) {
     EXPECT_TRUE(IsCustomScoring(v, kDefaultTimeBonus + 1));
     v.TowerBonus = 5001;
     EXPECT_TRUE(IsCustomScoring(v, kDefaultTimeBonus));
+}
+
+// The index of the next card stops at the top of its 16-bit range and every
+// further turn is the same refused turn.
+TEST(SpireholdRules, AStackTurnedPastItsRangeKeepsRefusingTheTurn) {
+    CreateStandardDeck();
+    spirehold::Board board;
+    spirehold::DealBoard(board, Deck, 2);
+    board.stackIndex = INT16_MAX - 1;
+    for (int i = 0; i < 3; ++i) spirehold::ClickStack(board, Deck);
+    EXPECT_EQ(board.stackIndex, INT16_MAX);
+    EXPECT_STREQ(spirehold::StackStageKey(board.stackIndex), "");
 }

@@ -72,13 +72,11 @@ TEST(SavedGames, CodesAreStoredTrimmedARoundNeverDealtHasNoBlockAndACommaEndsThe
 
 TEST(SavedGames, DamagedFilesAreRefused) {
     SavedGame back;
-    EXPECT_FALSE(ParseSavedGame("", back));
-    EXPECT_FALSE(ParseSavedGame("[Time Limit]\r\n90\r\n", back));
-    EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\n", back));
-    EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\nten\r\n", back));
-    EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\n11\r\n[Round 1 Deck]\r\n1S\r\n2S\r\n", back));  // short deck
-    EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\n99999\r\n", back));                              // out of range
-    EXPECT_FALSE(ParseSavedGame("[Card Goal]\r\n11\r\n[Score]\r\n9999999999\r\n", back));
+    // No goal, a goal cut off, not a number or out of range, a short deck, a score past 32 bits.
+    for (const char* text : {"", "[Time Limit]\r\n90\r\n", "[Card Goal]\r\n", "[Card Goal]\r\nten\r\n",
+                             "[Card Goal]\r\n11\r\n[Round 1 Deck]\r\n1S\r\n2S\r\n", "[Card Goal]\r\n99999\r\n",
+                             "[Card Goal]\r\n11\r\n[Score]\r\n9999999999\r\n"})
+        EXPECT_FALSE(ParseSavedGame(text, back)) << text;
     EXPECT_TRUE(ParseSavedGame("[Card Goal]\r\n11\r\n[Custom]\r\nno\r\n", back));
     EXPECT_FALSE(back.timeLimitRead);
     EXPECT_TRUE(back.custom);  // anything but "False"
