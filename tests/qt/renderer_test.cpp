@@ -53,7 +53,6 @@ struct Shown {
             if (w->text() == text) return w;
         return nullptr;
     }
-    // Presses the left button on `widget` (or lets it go) as the mouse does.
     static void Mouse(QWidget* widget, QEvent::Type type) {
         const QPointF at(5, 5);
         QMouseEvent e(type, at, widget->mapToGlobal(at), Qt::LeftButton,
@@ -147,8 +146,7 @@ TEST(Renderer, MenusCarryCaptionsTicksAndEnabledState) {
     EXPECT_FALSE(thirty->isChecked());
 }
 
-// Clicks and closing go to the logic, which decides; a form it unloads and
-// shows again gets a fresh window.
+// Clicks and closing go to the logic, which decides; a form unloaded and shown again gets a fresh window.
 TEST(Renderer, ClicksAndClosingGoToTheLogicAndAReloadedFormGetsAFreshWindow) {
     Shown probe = Probe();
     probe.find<QPushButton>("&Inside")->click();
@@ -212,8 +210,7 @@ TEST(Renderer, APieFromTwelveToThreeOclockFillsTheTopRightQuarter) {
     EXPECT_FALSE(green(-20, 20)) << "bottom left";
 }
 
-// A tall text box shows its lines, a short one is a line to type into whose
-// edits go to the logic.
+// A tall text box shows its lines; a short one is a line to type into, its edits sent to the logic.
 TEST(Renderer, TextBoxesTallAndShort) {
     Shown text("frmText", [](Form& f) {
         static const ControlSpec kLayout[] = {
@@ -248,8 +245,7 @@ TEST(Renderer, TextBoxesTallAndShort) {
     text.apply();
     EXPECT_EQ(name->text(), "Bob");
 
-    // A selection the logic makes shows, and shows again after the player
-    // moved the cursor, even when it is the same selection.
+    // A selection the logic makes shows, again after the player moved the cursor, even the same one.
     model.selectAll();
     text.apply();
     EXPECT_EQ(name->selectedText(), "Bob");
@@ -257,7 +253,6 @@ TEST(Renderer, TextBoxesTallAndShort) {
     model.selectAll();
     text.apply();
     EXPECT_EQ(name->selectedText(), "Bob");
-    // A click in the box goes to the logic.
     text.sent.clear();
     Shown::Mouse(name, QEvent::MouseButtonPress);
     ASSERT_FALSE(text.sent.empty());

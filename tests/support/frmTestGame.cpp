@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A one-round game window for the tests of the shared pieces, composed from
-// them as every game window is: cmdHit scores a hit, Take Score pays the hits
-// (AwardBonus) and the seconds left (CountTimeBonus), then the game ends
-// through FinishGame. Its settings file is "\Testgame.Ini", its table
-// "TestHiScores" at 30, 60 or 90 seconds.
+// A one-round game window built from the shared pieces as every game window is: cmdHit scores
+// a hit, Take Score pays the hits (AwardBonus) and seconds left (CountTimeBonus), then FinishGame.
+// Settings "\Testgame.Ini", table "TestHiScores" at 30, 60 or 90 seconds.
 #include <memory>
 #include <vector>
 

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Damaged, unreadable and missing files under every game window: a corpus made
-// from the files the game writes (cut at every byte, other line ends, random
-// bytes, 10 MB, a 1 MB line, numbers beyond 32 bits and below zero), the disk's
-// faults, and each numeric setting at the edges of the 16- and 32-bit types.
-// Each window opens, plays and closes; a file it could not read is never
-// written over.
+// Damaged, unreadable and missing files under every game window: each opens,
+// plays and closes, and a file it could not read is never written over.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -67,8 +63,7 @@ std::string ReadText(const fs::path& path) {
     return ReadWholeFile(path.string(), text) ? text : "<unread>";
 }
 
-// A file's content laid down, or checked; "<folder>" stands for a folder in
-// the file's place, "<none>" for no file.
+// A file's content laid down or checked; "<folder>" is a folder in its place, "<none>" no file.
 void Lay(const fs::path& path, const std::string& content) {
     std::error_code ec;
     fs::remove_all(path, ec);
@@ -80,9 +75,8 @@ bool Holds(const fs::path& path, const std::string& content) {
     return content == "<none>" ? !fs::exists(path) : ReadText(path) == content;
 }
 
-// A session of the suite in one runtime, driven by a plan of steps and checks
-// that run between them. Modal name entry and Hall of Fame windows are
-// answered as they come (an empty name, Done).
+// A session of the suite in one runtime, run by a plan of steps and checks;
+// modal name entry and Hall of Fame windows are answered (an empty name, Done).
 class Session {
 public:
     using Step = HeadlessPlatform::Step;
@@ -113,7 +107,6 @@ public:
             return std::optional<Step>();
         });
     }
-    // An input, made only if `when` holds at that moment.
     void input(InputKind kind, const std::string& form, const std::string& control, const std::string& text = "",
                When when = Always) {
         plan_.emplace_back([step = Input(kind, form, control, text), when, done = false]() mutable {
@@ -128,7 +121,6 @@ public:
             if (when()) platform_.queueAnswer(a, 0);
         });
     }
-    // Opens the game from the selector; closes it with Yes.
     void open(const Game& g) { click("frmSelect", g.button); }
     void close(const Game& g, const When& when = Always) {
         answer(MsgAnswer::Yes, when);
@@ -139,8 +131,7 @@ public:
         click(g.form, "cmdPlay");
         toTheEnd(1000);
     }
-    // In a game with Take Score, a whole game whose every round is taken at
-    // once, so that each bonus is paid with the seconds left.
+    // A whole game with every round taken at once, each bonus paid with the seconds left.
     void takeScores(const Game& g) {
         const auto canTake = [this, &g](bool inGame) {
             return [this, &g, inGame] {
@@ -153,8 +144,7 @@ public:
         for (int round = 0; round < 5; ++round) click(g.form, "cmdTakeScore", canTake(true));
         toTheEnd(1000);
     }
-    // Time passes a second at a time until the game is over, `seconds` at
-    // most; then "Game Over" stands its two seconds.
+    // A second at a time until game over (`seconds` at most); "Game Over" then stands two seconds.
     void toTheEnd(int seconds, bool mustEnd = true) {
         plan_.emplace_back([this, seconds, mustEnd]() mutable {
             if (GameInProgress && seconds-- > 0) return std::optional<Step>(Step{Step::Kind::Advance, {}, 1000});
@@ -209,12 +199,10 @@ private:
     fs::path home_;
     HeadlessPlatform platform_;
     Runtime runtime_{platform_};
-    // Each item gives its steps one by one, then nothing: it is done.
     std::deque<std::function<std::optional<Step>()>> plan_;
 };
 
-// The corpus made from a valid file: what a crash, another program or a
-// bad disk could leave in its place.
+// The corpus made from a valid file: what a crash, another program or a bad disk could leave.
 struct Damage {
     std::string what;
     std::string text;
@@ -238,8 +226,7 @@ std::string WithLineEnds(std::string text, const std::string& end) {
     return text;
 }
 
-// Every number standing alone on a line, or after the ", " of a table's
-// entry, replaced by `number`.
+// Every number alone on a line, or after a table entry's ", ", replaced by `number`.
 std::string WithNumbers(const std::string& text, const std::string& number) {
     std::string out;
     for (std::string line : Lines(text)) {
@@ -254,8 +241,7 @@ std::string WithNumbers(const std::string& text, const std::string& number) {
     return out;
 }
 
-// Cut at every byte (the first cut is the empty file), then the rest; the
-// index of a cut is its length.
+// Cut at every byte (the first cut empty, a cut's index its length), then the rest.
 std::vector<Damage> Corpus(const std::string& valid, unsigned seed) {
     std::vector<Damage> corpus;
     for (size_t k = 0; k < valid.size(); ++k) corpus.push_back({"cut at " + std::to_string(k), valid.substr(0, k)});
@@ -286,8 +272,7 @@ std::vector<Damage> Corpus(const std::string& valid, unsigned seed) {
     return corpus;
 }
 
-// The file with the value of one numeric section at a time set to each value
-// at the edge of the 16- and 32-bit types: the bounds, one past, -1 and 0.
+// One numeric section at a time set to each 16- and 32-bit edge: the bounds, one past, -1, 0.
 std::vector<Damage> EdgeCases(const std::string& valid) {
     const std::vector<std::string> lines = Lines(valid);
     std::vector<Damage> cases;
@@ -303,15 +288,13 @@ std::vector<Damage> EdgeCases(const std::string& valid) {
     return cases;
 }
 
-// The section names of a settings text, in order.
 std::vector<std::string> Sections(const std::string& text) {
     std::vector<std::string> names = Lines(text);
     std::erase_if(names, [](const std::string& line) { return line.front() != '['; });
     return names;
 }
 
-// A fresh home folder, in memory where there is such a folder: a sync there
-// costs nothing.
+// A fresh home folder, in memory where there is one, so that a sync costs nothing.
 template <class Base>
 class InHome : public Base {
 protected:
@@ -332,8 +315,7 @@ protected:
 
 class DamagedFiles : public InHome<::testing::TestWithParam<Game>> {
 protected:
-    // The files a game writes into the home from nothing: its settings and its
-    // fresh table.
+    // The files a game writes into an empty home: its settings and its fresh table.
     void SetUp() override {
         InHome::SetUp();
         const Game& g = GetParam();
@@ -348,11 +330,9 @@ protected:
         ASSERT_EQ(table, DefaultHighScoreText(ParseHighScoreText(table).front().score) + "\r\n");
     }
 
-    // Each damaged file in turn in the place of the settings or of the table:
-    // the window opens, plays and closes with no message but the close
-    // question (and, for edge values, the platform's overflow for a score
-    // carried past its range); what it writes on closing is a whole settings
-    // file again. Corpus files play a game to its end now and then.
+    // Each damaged settings file or table in turn: the window opens, plays and closes with no
+    // message but the close question (and the overflow of a score carried past its range),
+    // and writes a whole settings file on closing. Corpus files now and then play a game out.
     enum class Kind { Settings, EdgeValues, Table };
     void OpenEach(const std::string& valid, Kind kind) {
         const Game& g = GetParam();
@@ -389,8 +369,7 @@ protected:
         }
         s.run();
     }
-    // A damaged table's label shows the first score it holds (0 when it holds
-    // none), and looking at it never rewrites it.
+    // A damaged table's label shows its first score (0 if none); looking never rewrites it.
     void TableShown(Session& s, const std::string& text, const fs::path& file) {
         SCOPED_TRACE(s.what);
         const std::vector<ScoreEntry> before = ParseHighScoreText(text, 1);
@@ -399,10 +378,8 @@ protected:
         EXPECT_EQ(s.caption(GetParam().form, "lblHighScore"), shows ? GetParam().label + FormatScore(top) : "");
         EXPECT_EQ(ReadText(file), text);
     }
-    // A game played into a damaged table keeps every entry it could read, in
-    // their order (only the tenth and beyond may drop out); a top score beyond
-    // any score, left at the top, can't be shown after the game: the player
-    // is told.
+    // A game played into a damaged table keeps every entry it read, in order (the tenth on may
+    // drop); a top score beyond any score stays on top and can't be shown: the player is told.
     void TableKept(Session& s, const std::string& text, const fs::path& file) {
         SCOPED_TRACE(s.what);
         const std::vector<ScoreEntry> before = ParseHighScoreText(text, 11);
@@ -429,19 +406,16 @@ std::string GameName(const ::testing::TestParamInfo<Game>& info) { return std::s
 TEST_P(DamagedFiles, SettingsFileOpensAndIsWrittenWhole) { OpenEach(settings, Kind::Settings); }
 TEST_P(EdgeValues, EachSectionIsPlayedThrough) { OpenEach(settings, Kind::EdgeValues); }
 
-// Every damaged table, of entries below any score the game makes, so that
-// it gets a place.
+// Every damaged table, of entries below any score the game makes, so that it gets a place.
 TEST_P(DamagedFiles, TablesShowTheirTopScoreAndLoseNoEntry) {
     std::string valid = "Ann, 71200\r\nBob*, 900\r\n";
     for (int i = 0; i < 8; ++i) valid += "P" + std::to_string(i) + ", -" + std::to_string(100000 + i) + "\r\n";
     OpenEach(valid + "Eleventh, -300000\r\n\r\n", Kind::Table);
 }
 
-// Files that are there but can't be read (a read fault, a folder in their
-// place) and a home folder where nothing can be written, with or without the
-// game's files. The window opens on its defaults, shows the top score it could
-// read, plays, and at the end of the game tells the player if the table
-// failed; nothing is written over or made.
+// Files there but unreadable (a read fault, a folder in their place) and a home where nothing
+// can be written: the window opens on its defaults, shows the top score it read, plays, tells
+// the player at game over if the table failed, and writes over or makes nothing.
 TEST_P(DamagedFiles, UnreadableFilesAndAReadOnlyHomeAreLeftAsTheyWere) {
     const Game& g = GetParam();
     // Sounds off in the settings: a window that applied them would play silently.
@@ -494,15 +468,13 @@ TEST_P(DamagedFiles, UnreadableFilesAndAReadOnlyHomeAreLeftAsTheyWere) {
 INSTANTIATE_TEST_SUITE_P(EveryGame, DamagedFiles, ::testing::ValuesIn(kGames), GameName);
 INSTANTIATE_TEST_SUITE_P(EveryGame, EdgeValues, ::testing::ValuesIn(kGames), GameName);
 
-// Sumfall's saved games: a file the game saved, then damaged. Opening it
-// either refuses it with the message, leaving the dialog up, or tells whose
-// game it was and replays it; the file itself is never touched.
+// Sumfall's saved games, saved then damaged: opening one refuses it with the message, the
+// dialog left up, or names the player and replays it; the file is never touched.
 using DamagedSavedGames = InHome<::testing::Test>;
 
 TEST_F(DamagedSavedGames, AreRefusedOrReplayed) {
     const Game& g = kGames[0];
 
-    // A game of two rounds, saved.
     std::string valid;
     {
         Session s(home);
@@ -551,9 +523,8 @@ TEST_F(DamagedSavedGames, AreRefusedOrReplayed) {
             } else {
                 EXPECT_EQ(boxes.front().rfind("This game was saved by ", 0), 0u) << d.what << ": " << boxes.front();
                 EXPECT_FALSE(s.shown("frmOpen")) << d.what;
-                // A file without its cards, or with a card that has no
-                // picture, can't be dealt: the deal fails, and the window
-                // asks to close (No here, so it stays).
+                // A file without its cards, or with a card that has no picture, can't be dealt:
+                // the deal fails and the window asks to close (No here, so it stays).
                 if (boxes.size() > 1) {
                     EXPECT_EQ(boxes, (std::vector<std::string>{boxes.front(), "Unable to deal the cards.",
                                                                "Unknown Error! Unable to play Sumfall!",
@@ -584,8 +555,7 @@ TEST_F(DamagedSavedGames, AreRefusedOrReplayed) {
             EXPECT_FALSE(GameInProgress) << d.what;
             s.boxes();
         });
-        // A window whose Play failed keeps "&End Game" on its button: it is
-        // closed and opened anew for the next file.
+        // A window whose Play failed keeps "&End Game": it is closed and opened anew for the next file.
         s.close(g, [&s, &g] { return s.shown(g.form) && s.caption(g.form, "cmdPlay") == "&End Game"; });
         s.click("frmSelect", g.button, [&s, &g] { return !s.shown(g.form); });
         s.then([&s] { s.boxes(); });

@@ -33,8 +33,7 @@ namespace {
 
 class InterruptedWrites : public ::testing::Test {
 protected:
-    // In memory where there is such a folder, so that a sync costs nothing
-    // and the kills are many and quick; a kill is a kill there too.
+    // In memory where there is such a folder: a sync costs nothing and the kills are many and quick.
     void SetUp() override {
         std::error_code ec;
         const fs::path base = fs::is_directory("/dev/shm", ec) ? fs::path("/dev/shm") : fs::temp_directory_path();
@@ -60,17 +59,14 @@ protected:
         });
     }
 
-    // `write(0)` and `write(1)` put the two contents in `path`. A child
-    // alternates them until it is killed, 120 times at seeded moments; each
-    // time the file must be one of them, whole.
+    // `write(0)` and `write(1)` put the two contents in `path`; a child alternates them until
+    // killed, 120 times at seeded moments, and each time the file is one of them, whole.
     using Contents = std::array<std::string, 2>;
     void KillWriters(const std::string& path, const Contents& contents, const std::function<bool(int)>& write,
                      unsigned seed) {
         ASSERT_TRUE(write(0));
-        // Each kill's moment is drawn from a range that follows the child's
-        // pace (widened after a kill before its first write was done, narrowed
-        // after a later one), so that both kinds of kill are many; on a loaded
-        // machine more rounds are made until one has come mid-write.
+        // Kill moments follow the child's pace (widened after a kill before its first write, narrowed
+        // after a later one) so both kinds are many; a loaded machine runs rounds until one kills mid-write.
         std::mt19937 random(seed);
         double range = 2000;  // microseconds
         int torn = 0, afterAWrite = 0, leftBehind = 0, k = 0;
@@ -100,15 +96,13 @@ protected:
             ::stat(path.c_str(), &after);
             const bool written = after.st_ino != before.st_ino;  // each write renames a new file in
             afterAWrite += written;
-            // A killed writer's temporary file is cleared by the next writer:
-            // they never pile up.
+            // A killed writer's temporary file is cleared by the next writer: they never pile up.
             EXPECT_LE(Temporaries(), 1u);
             leftBehind += Temporaries() > 0;
             range = std::min(range * (written ? 0.9 : 1.1), 200000.0);
         }
         EXPECT_EQ(torn, 0) << "kills that left the file neither old nor new";
-        // Many kills came after a child's write was done (the file had
-        // changed), and some in the middle of one (a temporary file was left).
+        // Many kills came after a write was done (the file changed), some mid-write (a temporary left).
         EXPECT_GT(afterAWrite, k / 8);
         EXPECT_GT(leftBehind, 0);
         // The next write clears every temporary file a killed writer left.
@@ -148,8 +142,7 @@ TEST_F(InterruptedWrites, KilledWritersLeaveTheOldFileOrTheNew) {
     KillWriters(path, saved, [&](int i) { return WriteFileAtomic(path, saved[i]); }, 7);
 }
 
-// Only the temporary files of writers that are gone are cleared: another
-// program's, still writing, is left alone.
+// Only the temporary files of writers that are gone are cleared: a live writer's is left alone.
 TEST_F(InterruptedWrites, TemporariesOfLiveWritersStay) {
     const pid_t gone = fork();
     ASSERT_GE(gone, 0);

@@ -62,7 +62,6 @@ class LoopTest : public ::testing::Test {
 protected:
     LoopTest() : runtime(platform) {
         runtime.registerForm("frmTest", [this](Runtime& rt) { return std::make_unique<TestForm>(rt, log); });
-        // A modal window whose OK closes it.
         runtime.registerForm("frmDialog", [this](Runtime& rt) {
             auto dialog = std::make_unique<Form>(rt, "frmDialog");
             dialog->add({ControlKind::Button, "cmdOK", -1, 0, 0, 10, 10, "OK"});
@@ -139,9 +138,8 @@ TEST_F(LoopTest, ATickDueDuringASleepFiresOnceAfterwards) {
     EXPECT_EQ(log, (Log{"B@1500"}));
 }
 
-// Timers keep firing while a message box stands. A round that ends while
-// "Giving up so soon?" stands asks for a name: that window must take its OK,
-// or the box below never returns.
+// Timers keep firing while a message box stands. A round ending under "Giving up so soon?"
+// asks for a name: that window must take its OK, or the box below never returns.
 TEST_F(LoopTest, AModalFormATimerOpensOverAMessageBoxTakesInput) {
     startTimer("TimerB", 200);
     MsgAnswer answer = MsgAnswer::OK;
@@ -181,8 +179,7 @@ TEST_F(LoopTest, ChangeRunsOnlyOnARealChangeAndInsideTheSetter) {
     EXPECT_EQ(log, (Log{"change:Game Paused", "after", "change:"}));
 }
 
-// A control's event keeps the one handler bound to it: a second binding is a
-// fault unless it says that it replaces the first.
+// A control's event keeps its one handler: a second binding is a fault unless it replaces the first.
 TEST_F(LoopTest, ASecondHandlerIsRefusedUnlessItSaysItReplacesTheFirst) {
     TestForm& f = form();
     EXPECT_THROW(f.on("cmdGo", Ev::Click, [](EventArgs&) {}), std::logic_error);
@@ -243,10 +240,9 @@ TEST(DateTimes, MillisecondsRoundTripOverALeapDay) {
     EXPECT_EQ((std::vector<int>{leap.month, leap.day, leap.hour}), (std::vector<int>{3, 1, 0}));
 }
 
-// A renderer keeps what it was sent: each snapshot brings the header of a form
-// in which anything changed and only the controls whose revision moved. A
-// form unloaded by its own handler and loaded anew comes fresh and whole under
-// a new instance number, with timers of its own.
+// A renderer keeps what it was sent: a snapshot brings the header of each changed form and only
+// the controls whose revision moved; a form unloaded by its own handler and loaded anew comes
+// fresh and whole under a new instance number, with timers of its own.
 TEST_F(LoopTest, SnapshotsCarryWhatChangedAndAReloadedFormWhole) {
     SnapshotTaker taker;
     auto whole = taker.take(runtime);

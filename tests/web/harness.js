@@ -71,7 +71,6 @@ export async function menu(page, form, top, entry) {
   await page.click(`${sel(form)} .menubar [data-name="${entry}"]`);
 }
 
-// Taps the middle of a control on the touch screen.
 export async function tap(page, ref) {
   const el = await page.waitForSelector(sel(ref), {visible: true, timeout: 15000});
   const box = await el.boundingBox();
@@ -85,9 +84,8 @@ export async function alt(page, code) {
   await page.keyboard.up('Alt');
 }
 
-// Every alert, confirm or prompt of the page is accepted (a prompt with its
-// suggestion); wait(pattern) gives the first message not yet waited for that
-// matches, once it has come.
+// Every alert, confirm or prompt is accepted (a prompt with its suggestion); wait(pattern) gives
+// the first message not yet waited for that matches, once it has come.
 export function acceptDialogs(page) {
   const messages = [];
   const waiting = [];
@@ -126,8 +124,7 @@ export async function chooseFile(page, action, file) {
   await chooser.accept([file]);
 }
 
-// Files the browser downloads go to a folder of their own; next() gives the
-// next one to complete, as {name, bytes}.
+// Downloads go to a folder of their own; next() gives the next one to complete, as {name, bytes}.
 export async function downloads(browser) {
   const dir = fs.mkdtempSync(path.join(os.tmpdir(), 'cardhaven-downloads-'));
   const cdp = await browser.target().createCDPSession();

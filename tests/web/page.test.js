@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The web edition in a real headless Chromium: the suite comes up, every game
-// plays a stacked deal, blocking steps are seen as they happen while the page
-// answers, input reaches modal windows and message boxes, files are saved
-// only where storage keeps them and survive a reload, sound waits for the
-// first click, and a visited page works offline.
+// The web edition in headless Chromium: every game plays a stacked deal, blocking steps show as
+// the page answers, input reaches modal windows and message boxes, files are kept only where
+// storage keeps them and survive a reload, sound waits for a click, and the page works offline.
 import assert from 'node:assert/strict';
 import fs from 'node:fs';
 import os from 'node:os';
@@ -110,8 +108,7 @@ describe('the suite in the page', () => {
     for (const i of [20, 21, 16, 17, 18, 19, 10, 12, 11, 7, 13, 15, 14, 5, 6, 3, 4, 8, 9, 1, 2]) {
       await click(page, `frmSumfall.FieldCardPicture(${i})`);
     }
-    // The last pair ends the round; the bonuses count up with pauses between
-    // steps, and the page draws frames all along.
+    // The last pair ends the round; the bonuses count up with pauses, the page drawing frames all along.
     const seen = page.evaluate(() => new Promise((resolve) => {
       const find = (name) => document.querySelector(`.window[data-form="frmSumfall"] [data-name="${name}"]`);
       const score = find('lblCurrentScore'), round = find('lblCurrentRound');
