@@ -1,9 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # tests/desktop/install.sh BUILDDIR
-# Installs the build into a scratch prefix: everything lands in its place, and
-# the program runs from there and keeps the player's files in
-# ~/.local/share/cardhaven, not beside itself.
+# Installs the build into a scratch prefix: everything lands in its place, and the program runs
+# from there and keeps the player's files in ~/.local/share/cardhaven, not beside itself.
 . "$(dirname "$0")/../packaging/lib.sh"
 prefix=$work/prefix
 cmake --install "$1" --prefix "$prefix" >/dev/null || { fail "install failed"; exit 1; }

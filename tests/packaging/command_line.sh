@@ -38,16 +38,14 @@ expect 0 '^usage: cardhaven-script ' '' - -- "$driver" --help
 expect 0 "^cardhaven-script $version\$" '' - -- "$driver" --version
 empty "$XDG_RUNTIME_DIR" "--help left files in the runtime folder"
 
-# Wrong options: two or three lines of usage on standard error, status 2,
-# before anything else happens (the display is not even looked at).
+# Wrong options: a short usage on standard error, status 2, before the display is looked at.
 expect 2 '' '^cardhaven: unknown option --fullscreen$' 3 -- "$program" --fullscreen
 expect 2 '' '^usage: cardhaven ' 3 -- "$program" --home
 expect 2 '' "needs a positive number, not 'big'" 3 -- "$program" --write-icon "$work/icon.png" big
 expect 2 '' '^cardhaven-script: unknown option -x$' 2 -- "$driver" -x
 expect 2 '' '^cardhaven-script: --home needs a value$' 2 -- "$driver" --home
 expect 2 '' '^cardhaven-script: one script at a time$' 2 -- "$driver" one.script two.script
-# An option after the program's own "--" is a saved game's name, not an option:
-# the program goes on to look for its display.
+# An option after the program's own "--" names a saved game: the program looks for its display.
 expect 1 '' '^cardhaven: no display' 1 -- "$program" -- --help
 
 # No display: one line of ours, nothing of Qt's, and no runtime folder left.

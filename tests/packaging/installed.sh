@@ -1,11 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # tests/packaging/installed.sh SOURCEDIR OUTDIR
-# Unpacks the package into a scratch root and opens a saved game in a folder
-# whose name has a blank the way a file manager does, once the desktop's caches
-# say the program opens such a file. The selector comes up, Sumfall opens the
-# game, closing both ends the program, and the player's files are under
-# ~/.local/share/cardhaven.
+# Unpacks the package into a scratch root and, once the desktop's caches say the program opens
+# a saved game, opens one in a folder whose name has a blank: the selector comes up, Sumfall
+# opens the game, closing both ends the program, the player's files are in ~/.local/share/cardhaven.
 . "$(dirname "$0")/lib.sh"
 src=$(cd "$1" && pwd)
 package "$(realpath -m "$2")"
@@ -13,8 +11,7 @@ root=$work/root
 apps=$root/usr/share/applications
 dpkg -x "$deb" "$root" || { fail "dpkg -x"; exit 1; }
 
-# The caches a desktop builds from the installed files: a .sfl file is a
-# saved game, and a saved game opens with the program.
+# The caches a desktop builds from the installed files: a .sfl file is a saved game, opened by us.
 update-mime-database "$root/usr/share/mime" >"$work/log" 2>&1 || fail "update-mime-database: $(cat "$work/log")"
 type=$(sed -n 's/^[0-9]*:\([^:]*\):\*\.sfl$/\1/p' "$root/usr/share/mime/globs2")
 [ -n "$type" ] || fail "the installed MIME database has no type for *.sfl"
@@ -27,8 +24,7 @@ cp "$src/tests/scenarios/command/cleo.sfl" "$work/My Games/cleo.sfl"
 exec_line=$(sed -n 's/^Exec=//p' "$apps/games.quillmark.cardhaven.desktop")
 [ "$exec_line" = "cardhaven %f" ] || fail "the installed desktop file runs '$exec_line', not 'cardhaven %f'"
 
-# The saved game's message box has only OK; the splash panel hides when the
-# game is loaded, and stays when the file could not be read.
+# The saved game's box has only OK; the splash hides once the game loads, stays if it could not.
 cat >"$work/script" <<'SCRIPT'
 wait 800
 windows

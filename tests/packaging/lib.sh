@@ -1,7 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Sourced by the packaging and desktop tests: a scratch folder $work, fail and
-# finish, the package a folder holds, and the program under a virtual X server.
-# The program makes its own runtime folder and keeps the player's files in $HOME.
+# Sourced by the packaging and desktop tests: a scratch folder $work, fail and finish, the package
+# a folder holds, and the program (own runtime folder, files in $HOME) under a virtual X server.
 set -u
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -18,10 +17,9 @@ package() {
     [ -f "${debs[0]}" ] || { fail "no package in $1"; exit 1; }
     deb=${debs[0]}
 }
-# under_x HOME COMMAND...: runs the command from / under a virtual X server, its
-# output in $work/out; it must end with status 0 and print nothing on standard
-# error. A script that closes the last window has no quit: a program that stays
-# runs into the time limit. Leaks of the system libraries below Qt are not ours.
+# under_x HOME COMMAND...: runs the command from / under a virtual X server, output in $work/out;
+# status 0 and nothing on standard error. A script closing the last window has no quit: a program
+# that stays runs into the time limit. Leaks of the system libraries below Qt are not ours.
 under_x() {
     local home=$1 supp
     supp=$(cd "$(dirname "${BASH_SOURCE[0]}")/../desktop" && pwd)/lsan.supp

@@ -1,10 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # tests/packaging/lintian.sh OUTDIR
-# Debian's package checker on the package tests/packaging/package.sh left in
-# OUTDIR, at its most demanding: no error and no warning, and of the
-# informational and pedantic tags exactly those listed below, each with the
-# reason it stays. A tag that goes away is struck from the list as well.
+# Debian's package checker at its most demanding on the package package.sh left in OUTDIR: no error,
+# no warning, and of the informational and pedantic tags exactly those below, each with why it
+# stays. A tag that goes away is struck from the list as well.
 . "$(dirname "$0")/lib.sh"
 # The tag and what lintian says with it, without the file it names.
 allowed=(

@@ -1,9 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # tests/packaging/metadata.sh SOURCEDIR BUILDDIR
-# The files that present the program to a desktop and a distribution: they pass
-# their validators and agree with each other, the changelog and the program's
-# version; a saved game Sumfall writes is recognised; the manual page is clean.
+# The files presenting the program to a desktop and a distribution pass their validators and agree
+# with each other, the changelog and the version; Sumfall's saved game is recognised; the manual is clean.
 . "$(dirname "$0")/lib.sh"
 src=$1
 build=$2
@@ -17,10 +16,9 @@ desktop-file-validate "$desktop" >"$work/out" 2>&1 || fail "desktop-file-validat
 appstreamcli validate --no-net --no-color "$metainfo" >"$work/out" 2>&1 || fail "appstreamcli: $(cat "$work/out")"
 grep -E '^[EW]:' "$work/out" && fail "appstreamcli has warnings"
 
-# One MIME type, named alike in the three files; the desktop file hands the
-# saved game to the program. The licence: the full text as Debian ships it,
-# the metainfo's two licences, and a copyright file that puts every file under
-# the GPL but the metainfo, which is CC0 like the metadata it holds.
+# One MIME type, named alike in the three files; the desktop file hands the saved game to the program.
+# Licence: the full text as Debian ships it, the metainfo's two licences, and a copyright file
+# putting every file under the GPL but the metainfo, CC0 like the metadata it holds.
 type=$(sed -n 's/.*<mime-type type="\([^"]*\)".*/\1/p' "$mime")
 [ -n "$type" ] || fail "no MIME type in $mime"
 for line in "MimeType=$type;" 'Exec=cardhaven %f'; do
@@ -35,8 +33,7 @@ awk '/^Files:/ {f=$0} /^License:/ && f {print f " = " $2; f=""}' "$src/packaging
 printf '%s\n' 'Files: * = GPL-3.0-or-later' "Files: packaging/$id.metainfo.xml.in = CC0-1.0" |
     cmp -s - "$work/licences" || fail "the copyright file's licences: $(cat "$work/licences")"
 
-# The releases of the metainfo are the entries of the changelog, version and
-# date, newest first, and the newest is the program's version.
+# The metainfo's releases are the changelog's entries, version and date, newest first: the program's.
 version=$("$build/cardhaven-script" --version | sed -n 's/^cardhaven-script //p')
 logged=$(dpkg-parsechangelog -l "$src/packaging/changelog" -S Version 2>&1)
 [ "$logged" = "$version" ] || fail "the newest entry of packaging/changelog is '$logged', the program is '$version'"

@@ -1,9 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # tests/packaging/package.sh SOURCEDIR RELEASEDIR OUTDIR [COMPILER-LAUNCHER]
-# Builds the release tree, makes its Debian package into OUTDIR and checks what
-# it holds, what it asks for, and that its program is hardened. The package
-# stays in OUTDIR for installed.sh and lintian.sh.
+# Builds the release tree, makes its Debian package into OUTDIR (kept for installed.sh and
+# lintian.sh) and checks what it holds, what it asks for, and that its program is hardened.
 . "$(dirname "$0")/lib.sh"
 src=$(cd "$1" && pwd)
 release=$(realpath -m "$2")
@@ -51,8 +50,7 @@ for field in "Package: cardhaven" "Version: $(dpkg-parsechangelog -l "$src/packa
              "Section: games" "Architecture: $(dpkg --print-architecture)"; do
     grep -qx "$field" "$out/control" || fail "the control file lacks $field"
 done
-# A synopsis, then the long description as flowing text: lines indented by
-# more than one blank would be shown verbatim.
+# A synopsis, then the long description as flowing text: a line indented by more than one blank shows verbatim.
 dpkg-deb -f "$deb" Description >"$out/description"
 head -1 "$out/description" | grep -qx 'seven timed arcade card games' || fail "synopsis: $(head -1 "$out/description")"
 [ "$(wc -l <"$out/description")" -ge 3 ] || fail "no long description"
@@ -68,8 +66,8 @@ dpkg-deb -x "$deb" "$out/root"
 grep -qx 'License: GPL-3.0-or-later' "$out/root/usr/share/doc/cardhaven/copyright" ||
     fail "the package's copyright file does not name GPL-3.0-or-later"
 
-# The program is stripped, without a .comment section, and hardened: every file
-# compiled fortified, with the strong stack protector and without sanitizers.
+# The program is stripped, has no .comment section, and every file is fortified, with the strong
+# stack protector and no sanitizers.
 program=$out/root/usr/games/cardhaven
 [ "$(od -An -c -N4 "$program" | tr -d ' ')" = '177ELF' ] || fail "/usr/games/cardhaven is not an ELF program"
 readelf -S "$program" >"$out/sections"
