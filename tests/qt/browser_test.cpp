@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Finding the desktop's browser: no browser and a browser found are told
-// apart by what the desktop says, before any page is opened.
+// Finding the desktop's browser: none and one found are told apart by the desktop, before any page opens.
 #include <gtest/gtest.h>
 
 #include <QByteArray>

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The card pictures: every catalogue entry drawn at its size and pixel ratio,
-// faces in their suit's colour, and no two pictures alike.
+// The card pictures: every entry drawn at its size and pixel ratio, faces in their suit's colour, no two alike.
 #include <gtest/gtest.h>
 
 #include <QCryptographicHash>
@@ -33,8 +32,7 @@ int RedPixels(const QPixmap& pixmap) {
 
 }  // namespace
 
-// Every entry is drawn at its catalogue size times the pixel ratio, looks
-// like no other, and comes the same from the cache the second time.
+// Every entry is drawn at its size times the pixel ratio, like no other, and the same again from the cache.
 TEST(CardArt, EveryEntryIsDrawnAtItsSizeAndNoTwoAreAlike) {
     const ch::ImageCatalogue& catalogue = ch::ImageList2();
     std::set<QByteArray> seen;

@@ -38,8 +38,7 @@ QByteArray ReadData(const char* name) {
 
 }  // namespace
 
-// Sixteen-bit PCM in one or two channels plays; anything else is refused
-// without a crash.
+// Sixteen-bit PCM in one or two channels plays; anything else is refused without a crash.
 TEST(ReadWave, TakesSixteenBitPcmInOneOrTwoChannelsAndRefusesTheRest) {
     int rate = 0, channels = 0;
     QByteArray pcm;
@@ -66,9 +65,8 @@ TEST(ReadWave, TakesSixteenBitPcmInOneOrTwoChannelsAndRefusesTheRest) {
     for (const auto& [what, file] : refused) EXPECT_FALSE(ch::ReadWave(file, rate, channels, pcm)) << what;
 }
 
-// Every effect the games ask for exists, and its length suits its use: a
-// score step is over before the next one 75 ms later, a refused click is
-// short, the fanfares are long enough to be heard as such.
+// Every effect the games ask for exists at a length that suits it: a score step ends before the next
+// 75 ms later, a refused click is short, a fanfare long enough to be heard as one.
 TEST(GeneratedSounds, EveryEffectHasALengthThatFitsItsUse) {
     const struct {
         const char* name;

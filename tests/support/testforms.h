@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Windows that exist only in the test driver (cardhaven-shell-script): a
-// small game window built from the shared pieces exactly as a game is, and a
-// launcher that opens it and reads and writes files in AppPath for scripts.
+// Windows only in the test driver: a small game window built from the shared pieces as a game is,
+// and a launcher that opens it and reads and writes files in AppPath for scripts.
 #pragma once
 
 namespace ch {

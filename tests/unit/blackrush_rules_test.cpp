@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Blackrush's rules at edges a scenario passes only once: the pile's
-// thresholds, custom scoring, the wait in seconds.
+// Blackrush's rules at edges a scenario passes once: the pile's thresholds, custom scoring, the wait.
 #include <gtest/gtest.h>
 
 #include "games/blackrush/modBlackrush.h"

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Card codes, the standard deck, the random draws and the shuffle, and the
-// image catalogue's keys as the back design changes.
+// Card codes, the deck, random draws and the shuffle, and the image keys as the back design changes.
 #include <gtest/gtest.h>
 
 #include <algorithm>

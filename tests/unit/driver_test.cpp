@@ -100,10 +100,9 @@ TEST(Driver, GroupsReadInOrderAndAnOpeningsFailureNamesItsFile) {
     EXPECT_EQ(run.status, 1);
 }
 
-// An unknown name or a value out of bounds stops the run with status 2; quit
-// or closing the selector ends it at once with status 0. Message boxes and
-// sounds are read once; an answer by place presses the first or second button
-// of any box.
+// An unknown name or a value out of bounds stops the run with status 2; quit or closing the selector
+// ends it at once with status 0. Message boxes and sounds are read once; an answer by place
+// presses the first or second button of any box.
 TEST(Driver, RunsEndWithTheirOutputAndStatus) {
     const std::tuple<const char*, const char*, int> cases[] = {
         {"print frmSelect.cmdNothing.Caption\nprint frmSelect.Caption\n",

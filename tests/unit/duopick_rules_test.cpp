@@ -82,8 +82,7 @@ TEST(DuopickScoring, AwardsComeInTheirOrderWithThePairsLast) {
     EXPECT_EQ(NextStep(4, 500000, 80000), AfterRound::GameOver);
 }
 
-// The waste pile holds 30 cards: an up card taken past its end stops the
-// move once the two cards are off the table.
+// The waste pile holds 30 cards: an up card taken past its end stops the move once both cards are off.
 TEST(DuopickBoard, TakingTheUpCardPastTheWastePilesEndStopsAfterTakingTheCards) {
     ch::CreateStandardDeck();
     Board board;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What marks a Fivestack score as custom: each of the Time Bonus range, the
-// bonus score and the passes left on its own, and not the wait or the
-// setting of cards to pass.
+// What marks a Fivestack score as custom: the Time Bonus range, the bonus score and the passes left,
+// each on its own; not the wait or the setting of cards to pass.
 #include <gtest/gtest.h>
 
 #include "games/fivestack/modFivestack.h"

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The fuzzer's checks must catch what they are there for: a table that lost
-// an entry, a file that would not read back.
+// The fuzzer's checks catch what they are for: a table that lost an entry, a file that won't read back.
 #include <gtest/gtest.h>
 
 #include "tools/fuzz/checks.h"

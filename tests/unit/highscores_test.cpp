@@ -47,9 +47,8 @@ struct Window : Form {
 
 }  // namespace
 
-// Every game is found by its title and its window, and two games never share
-// a table file: Sumfall and Fivestack share a table name, kept apart by
-// Sumfall's card goal.
+// Every game is found by its title and window, and no two share a table file: Sumfall and Fivestack
+// share a table name, kept apart by Sumfall's card goal.
 TEST_F(HighScoreFiles, EveryGameIsKnownByTitleAndWindowAndKeepsItsOwnTables) {
     std::set<std::string> files;
     std::set<int> slots;

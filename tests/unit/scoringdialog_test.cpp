@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// OK's check of a custom scoring dialog from its table: the order of the
-// boxes and messages, what a box out of range shows and stores, where the
-// focus ends. The policies that tell the games' dialogs apart, and a
-// run-time error in a store, are checked through each game's own dialog.
+// OK's check of a custom scoring dialog from its table: box and message order, what a box out of range
+// shows and stores, where the focus ends. Policies and a store's run-time error: each game's dialog.
 #include <gtest/gtest.h>
 
 #include <tuple>

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Settings files: the reader on short, damaged and odd files, number
-// sections at the edges of their range, and the top folder writes stay in.
+// Settings files: the reader on short, damaged and odd files, numbers at their range's edges, writes kept in.
 #include <gtest/gtest.h>
 
 #include <unistd.h>
@@ -63,8 +62,7 @@ TEST(Settings, NumbersOutsideTheSettingsRangeChangeNothingAndTheRestRounds) {
     EXPECT_EQ(large, 0);
 }
 
-// The browser edition keeps only its home folder: nothing is written beside
-// it, not even in a folder whose name begins with the home's, nor above it.
+// The browser edition keeps only its home folder: nothing written beside it, above it, or in a folder named like it.
 TEST(Settings, NoFileIsWrittenOutsideTheTopFolderNorLeftHalfWrittenInIt) {
     const std::filesystem::path base = std::filesystem::temp_directory_path() / "cardhaven-top-test";
     std::filesystem::create_directories(base / "home" / "sub");

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Spirehold's rules where the window can't show them whole: the neighbour
-// rule at its edges, the shape of the towers, what counts as custom scoring,
-// and a stack turned tens of thousands of times past its end.
+// Spirehold's rules where the window can't show them whole: the neighbour rule at its edges, the towers'
+// shape, what counts as custom scoring, and a stack turned tens of thousands of times past its end.
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -60,8 +59,7 @@ TEST(SpireholdRules, CustomScoringIsAnyValueOffItsDefault) {
     EXPECT_TRUE(IsCustomScoring(v, kDefaultTimeBonus));
 }
 
-// The index of the next card stops at the top of its 16-bit range and every
-// further turn is the same refused turn.
+// The next card's index stops at the top of its 16-bit range; every further turn is the same refused turn.
 TEST(SpireholdRules, AStackTurnedPastItsRangeKeepsRefusingTheTurn) {
     CreateStandardDeck();
     spirehold::Board board;

@@ -94,8 +94,7 @@ TEST(SavedGames, VerdictsByScore) {
     for (const auto& [score, verdict] : verdicts) EXPECT_EQ(SavedGameVerdict(score), verdict) << score;
 }
 
-// The up pile has room for 31 cards; turning 42 unused grows it, and the last
-// one turned is the first up card again.
+// The up pile has room for 31 cards; turning 42 unused grows it, and the last turned is the first up card.
 TEST(SumfallBoard, TheUpPileGrowsPastItsRoomAndAnEmptyPileRefusesAClick) {
     Board board;
     DealBoard(board, DeckForCardGoal(15));
