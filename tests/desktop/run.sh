@@ -1,9 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # tests/desktop/run.sh PROGRAM SCRIPT
-# Runs the program with a driver script and a fresh home folder; every
-# "expect-out TEXT" line of the script must be in what it printed. A script with
-# the line "# audio: null-sink" gets a sound server whose only output is a null sink.
+# Runs the program with a driver script and a fresh home; each "expect-out TEXT" line must be in
+# its output, and the line "# audio: null-sink" brings a sound server with only a null sink.
 . "$(dirname "$0")/../packaging/lib.sh"
 program=$(realpath "$1")
 script=$(realpath "$2")

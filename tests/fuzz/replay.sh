@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # replay.sh FUZZ SCRIPT DATA GAME SEED
-# A fuzz run's trail, closed by expectations of the state it ended in, replays
-# in the driver event for event and meets every one of them.
+# A fuzz run's trail, closed by expectations of its end state, replays in the driver and meets them all.
 set -euo pipefail
 fuzz=$1 script=$2 data=$3 game=$4 seed=$5
 work=$(mktemp -d)

@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # tests/packaging/command_line.sh PROGRAM SCRIPT-PROGRAM VERSION
-# Without a display: help and version succeed, a wrong option gets a short
-# usage and status 2, and a missing display is told in one line of our own.
+# Without a display: help and version succeed, a wrong option gets usage and status 2, no display one line of ours.
 . "$(dirname "$0")/lib.sh"
 program=$(realpath "$1")
 driver=$(realpath "$2")

@@ -1,9 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # tests/packaging/lintian.sh OUTDIR
-# Debian's package checker at its most demanding on the package package.sh left in OUTDIR: no error,
-# no warning, and of the informational and pedantic tags exactly those below, each with why it
-# stays. A tag that goes away is struck from the list as well.
+# Debian's package checker at its most demanding on package.sh's package: no error, no warning, and
+# exactly the informational and pedantic tags below, each with why it stays (one gone is struck too).
 . "$(dirname "$0")/lib.sh"
 # The tag and what lintian says with it, without the file it names.
 allowed=(

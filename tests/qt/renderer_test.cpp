@@ -260,8 +260,7 @@ TEST(Renderer, TextBoxesTallAndShort) {
     EXPECT_EQ(text.sent.back().control, "txtName");
 }
 
-// A mouse double click on a card: its first click goes out at once, and the
-// double click then tells the logic that the first half was sent already.
+// A double click on a card: its first click goes out at once, then the logic is told that half was sent.
 TEST(Renderer, ADoubleClickOnACardSendsAClickThenItsSecondHalf) {
     Shown shown("frmCard", [](Form& f) {
         static const ControlSpec kLayout[] = {{ControlKind::Image, "Card", 3, 150, 150, 1065, 1455}};
@@ -307,8 +306,7 @@ struct Between {
 };
 }  // namespace
 
-// Waiting times out without input and serves input in order; mouse moves
-// over one control count once while the logic is busy.
+// Waiting times out without input and serves input in order; moves over one control count once while busy.
 TEST(QtPlatform, WaitTimesOutAndServesInputInOrderWithRepeatedMovesAsOne) {
     Between p;
     InputEvent e;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// frmTestLauncher: cmdOpen opens the test game as a selector button would;
-// cmdWrite writes txtContent to the file txtFile names in AppPath ("\X.Ini"),
-// cmdRead reads it back into txtContent ("<missing>" when there is none).
+// frmTestLauncher: cmdOpen opens the test game as a selector button would; cmdWrite writes txtContent
+// to txtFile in AppPath ("\X.Ini"), cmdRead reads it back ("<missing>" when there is none).
 #include <memory>
 
 #include "suite/common.h"

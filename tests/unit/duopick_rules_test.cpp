@@ -10,9 +10,8 @@
 
 using namespace ch::duopick;
 
-// Each card lies under the two cards four and five places on, in the next
-// row; the end cards of rows 1 and 3 have one neighbour there and lie under
-// the card straight below them two rows down as well. Row 5 lies open.
+// Each card lies under the two cards four and five places on, in the next row; the end cards of
+// rows 1 and 3 have one there and lie under the card two rows straight down too. Row 5 lies open.
 TEST(DuopickField, EachCardIsCoveredByExactlyTheCardsOverIt) {
     const std::map<int, std::array<int, 2>> ends = {{0, {5, 9}}, {4, {8, 13}}, {9, {14, 18}}, {13, {17, 22}}};
     for (int card = 0; card < kFieldCards; ++card) {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// High score tables: file names, the reader, and a short table's place for a
-// new score. Damaged tables, through every game's window, are in damaged_files_test.
+// High score tables: file names, the reader, a short table's place for a new score (damaged: damaged_files_test).
 #include <gtest/gtest.h>
 
 #include <cstdlib>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Writers killed with SIGKILL at random moments leave the file old or new,
-// whole, and what they leave beside it is cleared by the next write; writes
-// that fail on a full disk, a read-only folder or a failed sync keep the old.
+// Writers killed at random moments leave the file old or new, whole, and the next write clears what
+// they left beside it; a write failing on a full disk, a read-only folder or a sync keeps the old.
 #include <gtest/gtest.h>
 
 #include <algorithm>

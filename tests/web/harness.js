@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Starts the site's server and a headless Chromium for the page tests, and
-// gives them the page's windows and controls by the suite's own names.
+// Starts the site's server and a headless Chromium, and gives page tests windows and controls by name.
 import {spawn} from 'node:child_process';
 import fs from 'node:fs';
 import os from 'node:os';

@@ -46,7 +46,6 @@ const DEALS = [
     'lblCardCount', /^Cards remaining: \d+$/],
 ];
 
-// Sumfall's Save dialog, given a name and OK.
 async function saveAs(name) {
   await page.click(sel('frmSave.txtGameName'), {clickCount: 3});
   await page.keyboard.type(name);
