@@ -66,8 +66,7 @@ dpkg-deb -x "$deb" "$out/root"
 grep -qx 'License: GPL-3.0-or-later' "$out/root/usr/share/doc/cardhaven/copyright" ||
     fail "the package's copyright file does not name GPL-3.0-or-later"
 
-# The program is stripped, has no .comment section, and every file is fortified, with the strong
-# stack protector and no sanitizers.
+# Stripped, no .comment section, every file fortified with the strong stack protector, no sanitizers.
 program=$out/root/usr/games/cardhaven
 [ "$(od -An -c -N4 "$program" | tr -d ' ')" = '177ELF' ] || fail "/usr/games/cardhaven is not an ELF program"
 readelf -S "$program" >"$out/sections"

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The renderer shows a snapshot of the model and sends the user's input back
-// as events; the platform carries events and snapshots between the threads.
+// The renderer shows model snapshots and sends input back as events; the platform carries both across threads.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -192,8 +191,7 @@ TEST(Renderer, TheSelectorShowsOnlyTheGamesOfThisBuild) {
     }
 }
 
-// The dial's pies are in screen degrees, clockwise from start to end: the
-// first quarter of a round fills the top right of the dial.
+// The dial's pies are in screen degrees, clockwise: a round's first quarter fills the dial's top right.
 TEST(Renderer, APieFromTwelveToThreeOclockFillsTheTopRightQuarter) {
     Shown dial("frmDial", [](Form& f) {
         static const ControlSpec kLayout[] = {{ControlKind::PictureBox, "Surface", -1, 150, 150, 1500, 1500}};

@@ -157,8 +157,7 @@ TEST_F(InterruptedWrites, TemporariesOfLiveWritersStay) {
     EXPECT_TRUE(fs::exists(AppPath + "/Other.Txt" + ofGone));
 }
 
-// A write that fails at any step keeps the old file and leaves nothing beside
-// it; a read tells a missing file from one that is there but can't be read.
+// A write failing at any step keeps the old file with nothing beside it; a read tells missing from unreadable.
 TEST_F(InterruptedWrites, FailedWritesKeepTheOldFileAndReadsTellMissingFromUnreadable) {
     const std::string path = AppPath + "/Sumfall.Ini";
     ASSERT_TRUE(WriteFileAtomic(path, "old"));

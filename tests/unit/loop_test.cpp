@@ -190,8 +190,7 @@ TEST_F(LoopTest, ASecondHandlerIsRefusedUnlessItSaysItReplacesTheFirst) {
     EXPECT_EQ(log, (Log{"go", "go again"}));
 }
 
-// A double click, whole or as the second half of one whose first click was
-// already sent, gives Click then DblClick; a button has none: two Clicks.
+// A double click, whole or the second half of one already sent, gives Click then DblClick; a button: two Clicks.
 TEST_F(LoopTest, ADoubleClickIsAClickThenADoubleClickAndTwoClicksOnAButton) {
     for (const char* control : {"imgCard", "cmdGo"}) {
         run({Input(InputKind::DblClick, "frmTest", control)});
