@@ -145,7 +145,6 @@ TEST(Renderer, MenusCarryCaptionsTicksAndEnabledState) {
     EXPECT_FALSE(thirty->isChecked());
 }
 
-// Clicks and closing go to the logic, which decides; a form unloaded and shown again gets a fresh window.
 TEST(Renderer, ClicksAndClosingGoToTheLogicAndAReloadedFormGetsAFreshWindow) {
     Shown probe = Probe();
     probe.find<QPushButton>("&Inside")->click();
@@ -258,7 +257,6 @@ TEST(Renderer, TextBoxesTallAndShort) {
     EXPECT_EQ(text.sent.back().control, "txtName");
 }
 
-// A double click on a card: its first click goes out at once, then the logic is told that half was sent.
 TEST(Renderer, ADoubleClickOnACardSendsAClickThenItsSecondHalf) {
     Shown shown("frmCard", [](Form& f) {
         static const ControlSpec kLayout[] = {{ControlKind::Image, "Card", 3, 150, 150, 1065, 1455}};
@@ -304,7 +302,6 @@ struct Between {
 };
 }  // namespace
 
-// Waiting times out without input and serves input in order; moves over one control count once while busy.
 TEST(QtPlatform, WaitTimesOutAndServesInputInOrderWithRepeatedMovesAsOne) {
     Between p;
     InputEvent e;

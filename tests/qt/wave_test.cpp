@@ -38,7 +38,6 @@ QByteArray ReadData(const char* name) {
 
 }  // namespace
 
-// Sixteen-bit PCM in one or two channels plays; anything else is refused without a crash.
 TEST(ReadWave, TakesSixteenBitPcmInOneOrTwoChannelsAndRefusesTheRest) {
     int rate = 0, channels = 0;
     QByteArray pcm;
@@ -94,7 +93,6 @@ TEST(GeneratedSounds, EveryEffectHasALengthThatFitsItsUse) {
     }
 }
 
-// The tune is one standard MIDI track of about a minute.
 TEST(GeneratedSounds, TheTuneLastsAboutAMinute) {
     const QByteArray midi = ReadData("Quillmark.MID");
     ASSERT_GT(midi.size(), 22);
@@ -103,7 +101,6 @@ TEST(GeneratedSounds, TheTuneLastsAboutAMinute) {
     ASSERT_EQ(midi.mid(14, 4), QByteArray("MTrk"));
     const quint32 size = qFromBigEndian<quint32>(midi.constData() + 18);
     ASSERT_EQ(qsizetype(22 + size), midi.size());
-    // Walk the events: sum the deltas and read the tempo.
     const auto* d = reinterpret_cast<const quint8*>(midi.constData());
     qsizetype at = 22;
     quint64 ticks = 0;

@@ -10,9 +10,7 @@ class Runtime;
 inline constexpr const char* kTestGameTitle = "Testgame!";
 
 void RegisterTestForms(Runtime& runtime);
-// Registers the test game: its window, rules and table.
 void RegisterTestGame(Runtime& runtime);
-// Shows frmTestLauncher beside the selector.
 void ShowTestLauncher(Runtime& runtime);
 
 }  // namespace ch

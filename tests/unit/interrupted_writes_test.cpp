@@ -141,7 +141,6 @@ TEST_F(InterruptedWrites, KilledWritersLeaveTheOldFileOrTheNew) {
     KillWriters(path, saved, [&](int i) { return WriteFileAtomic(path, saved[i]); }, 7);
 }
 
-// Only the temporary files of writers that are gone are cleared: a live writer's is left alone.
 TEST_F(InterruptedWrites, TemporariesOfLiveWritersStay) {
     const pid_t gone = fork();
     ASSERT_GE(gone, 0);
@@ -157,7 +156,6 @@ TEST_F(InterruptedWrites, TemporariesOfLiveWritersStay) {
     EXPECT_TRUE(fs::exists(AppPath + "/Other.Txt" + ofGone));
 }
 
-// A write failing at any step keeps the old file with nothing beside it; a read tells missing from unreadable.
 TEST_F(InterruptedWrites, FailedWritesKeepTheOldFileAndReadsTellMissingFromUnreadable) {
     const std::string path = AppPath + "/Sumfall.Ini";
     ASSERT_TRUE(WriteFileAtomic(path, "old"));

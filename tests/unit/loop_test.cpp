@@ -179,7 +179,6 @@ TEST_F(LoopTest, ChangeRunsOnlyOnARealChangeAndInsideTheSetter) {
     EXPECT_EQ(log, (Log{"change:Game Paused", "after", "change:"}));
 }
 
-// A control's event keeps its one handler: a second binding is a fault unless it replaces the first.
 TEST_F(LoopTest, ASecondHandlerIsRefusedUnlessItSaysItReplacesTheFirst) {
     TestForm& f = form();
     EXPECT_THROW(f.on("cmdGo", Ev::Click, [](EventArgs&) {}), std::logic_error);
